@@ -1,0 +1,82 @@
+# How the project's libraries and programs are compiled. Stands in the framework's folder because the framework builds alone.
+
+include(GNUInstallDirs)
+include(GenerateExportHeader)
+
+option(ZU_WERROR "Treat compiler warnings as errors" OFF)
+
+# One strictness for every target of ours.
+function(zu_compile_options target)
+    target_compile_features(${target} PUBLIC cxx_std_17)
+    set_target_properties(${target} PROPERTIES
+        CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        POSITION_INDEPENDENT_CODE ON)
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+        -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wswitch-enum -Wundef
+        $<$<BOOL:${ZU_WERROR}>:-Werror>)
+endfunction()
+
+# A shared library ${target} with an export header <${folder}/export.hpp> that defines ${macro}, and the object library
+# ${target}_objects behind it: its sources are compiled once, and tests of private operations link the objects.
+function(zu_add_library target)
+    cmake_parse_arguments(arg "" "EXPORT_NAME;FOLDER;MACRO" "SOURCES" ${ARGN})
+
+    add_library(${target}_objects OBJECT ${arg_SOURCES})
+    zu_compile_options(${target}_objects)
+    set(generated ${CMAKE_CURRENT_BINARY_DIR}/generated)
+    generate_export_header(${target}_objects BASE_NAME ${target}
+        EXPORT_MACRO_NAME ${arg_MACRO}
+        EXPORT_FILE_NAME ${generated}/${arg_FOLDER}/export.hpp)
+    target_compile_definitions(${target}_objects PRIVATE ${target}_EXPORTS)
+
+    add_library(${target} SHARED)
+    add_library(zu::${arg_EXPORT_NAME} ALIAS ${target})
+    set_target_properties(${target} PROPERTIES
+        EXPORT_NAME ${arg_EXPORT_NAME}
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR}
+        INSTALL_RPATH "$ORIGIN")
+    target_compile_features(${target} PUBLIC cxx_std_17)
+    target_link_libraries(${target} PRIVATE ${target}_objects)
+
+    foreach(side IN ITEMS ${target} ${target}_objects)
+        target_include_directories(${side} PUBLIC
+            $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>
+            $<BUILD_INTERFACE:${generated}>
+            $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    endforeach()
+
+    install(TARGETS ${target} EXPORT ${PROJECT_NAME}Targets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+    install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+    install(FILES ${generated}/${arg_FOLDER}/export.hpp
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${arg_FOLDER})
+endfunction()
+
+# What find_package(${PROJECT_NAME}) finds: the exported targets, behind a config file that first finds what they need.
+function(zu_install_package config_template)
+    include(CMakePackageConfigHelpers)
+    set(destination ${CMAKE_INSTALL_LIBDIR}/cmake/${PROJECT_NAME})
+    configure_package_config_file(${config_template}
+        ${CMAKE_CURRENT_BINARY_DIR}/${PROJECT_NAME}Config.cmake INSTALL_DESTINATION ${destination})
+    write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/${PROJECT_NAME}ConfigVersion.cmake
+        COMPATIBILITY SameMinorVersion)
+    install(EXPORT ${PROJECT_NAME}Targets NAMESPACE zu:: DESTINATION ${destination})
+    install(FILES
+        ${CMAKE_CURRENT_BINARY_DIR}/${PROJECT_NAME}Config.cmake
+        ${CMAKE_CURRENT_BINARY_DIR}/${PROJECT_NAME}ConfigVersion.cmake
+        DESTINATION ${destination})
+endfunction()
+
+# A GoogleTest program whose cases CTest lists one by one.
+function(zu_add_tests target)
+    cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${target} ${arg_SOURCES})
+    zu_compile_options(${target})
+    target_link_libraries(${target} PRIVATE ${arg_LIBRARIES} GTest::gmock GTest::gtest_main)
+    gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST)
+endfunction()
