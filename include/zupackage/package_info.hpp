@@ -1,0 +1,208 @@
+#pragma once
+
+#include <zupackage/behavior_info.hpp>
+#include <zupackage/dialog_info.hpp>
+#include <zupackage/export.hpp>
+#include <zupackage/language_info.hpp>
+
+#include <QtCore/qglobal.h>
+
+#include <iosfwd>
+#include <list>
+#include <map>
+#include <memory>
+#include <string>
+
+QT_FORWARD_DECLARE_CLASS(QFile)
+
+namespace zu {
+
+/// A robot hardware that a package needs. Versions are texts; nothing here compares or parses them.
+struct ZUPACKAGE_EXPORT RobotRequirement
+{
+    std::string model;
+    std::string minHeadVersion; ///< lowest accepted
+    std::string maxHeadVersion; ///< highest accepted
+    std::string minBodyVersion; ///< lowest accepted
+    std::string maxBodyVersion; ///< highest accepted
+};
+
+/// A range of middleware versions that a package needs. Versions are texts; nothing here compares or parses them.
+struct ZUPACKAGE_EXPORT MorvoRequirement
+{
+    std::string minVersion; ///< lowest accepted
+    std::string maxVersion; ///< highest accepted
+};
+
+/// A service that a package declares.
+struct ZUPACKAGE_EXPORT PackageService
+{
+    std::string execStart; ///< command line that starts the service
+    std::string name;
+    bool autoRun = false;                       ///< whether the service starts automatically
+    std::map<std::string, std::string> envVars; ///< environment variables: name to value
+};
+
+struct PackageInfoPrivate;
+
+/// The description of one application package, list-based and editable: what its manifest says.
+///
+/// Texts are UTF-8. Language codes are keys exactly as given: compared byte by byte, never normalised, and a look-up
+/// never falls back to another language. Lists keep insertion order and hold duplicates, except the two language lists.
+/// Setters take the value first and the language last. Versions and dates are texts that nothing parses.
+///
+/// A package owns its content; a copy is deep and independent. There are no move operations: a moved-from package would
+/// be left without content. Not synchronised: one object may be read by several threads while none writes it (for
+/// behaviors, see BehaviorInfo).
+///
+/// Kept as existing callers know it: there is no operation that clears the descriptions, the languages or the
+/// executable files, and the two requirement getters hand out a mutable list from a const object.
+class ZUPACKAGE_EXPORT PackageInfo
+{
+public:
+    /// A package with empty texts, maps and lists, not for installation at start-up only.
+    PackageInfo();
+    PackageInfo(const PackageInfo& other);
+    ~PackageInfo();
+
+    /// Copies the content of `other` into this object; references taken from it before stay valid.
+    /// @return a further copy, by value: callers built against this signature rely on it.
+    PackageInfo operator=(const PackageInfo& other);
+
+    /// Identifier of the package.
+    const std::string& uuid() const;
+    void setUuid(const std::string& uuid);
+
+    const std::string& version() const;
+    void setVersion(const std::string& version);
+
+    const std::string& author() const;
+    void setAuthor(const std::string& author);
+
+    /// Distribution channel.
+    const std::string& channel() const;
+    void setChannel(const std::string& channel);
+
+    const std::string& organization() const;
+    void setOrganization(const std::string& organization);
+
+    const std::string& date() const;
+    void setDate(const std::string& date);
+
+    /// Version of the manifest format.
+    const std::string& typeVersion() const;
+    void setTypeVersion(const std::string& typeVersion);
+
+    /// Identifier of the package's installer; not part of the manifest document.
+    const std::string& installer() const;
+    void setInstaller(const std::string& installer);
+
+    /// Where the package lies on disk; not part of the manifest document.
+    const std::string& path() const;
+    void setPath(const std::string& path);
+
+    const bool& installOnlyAtStartup() const;
+    void setInstallOnlyAtStartup(const bool& installOnlyAtStartup);
+
+    /// The display name in exactly `lang`; when there is none, an empty text that lives as long as the process.
+    const std::string& name(const std::string& lang) const;
+    /// The description in exactly `lang`; when there is none, an empty text that lives as long as the process.
+    const std::string& description(const std::string& lang) const;
+    /// Sets or replaces the display name in `lang`.
+    void setName(const std::string& name, const std::string& lang);
+    /// Sets or replaces the description in `lang`.
+    void setDescription(std::string description, const std::string& lang);
+    /// Display names by language.
+    const std::map<std::string, std::string>& names() const;
+    /// Descriptions by language.
+    const std::map<std::string, std::string>& descriptions() const;
+    void clearNames();
+
+    /// The languages that the package supports.
+    const std::list<std::string>& supportedLanguages() const;
+    /// Appends `lang` unless it is in the list.
+    void addSupportedLanguage(const std::string& lang);
+    /// Removes every element equal to `lang`.
+    void removeSupportedLanguage(const std::string& lang);
+    void clearSupportedLanguages();
+
+    /// The languages in which the package is described.
+    const std::list<std::string>& descriptionLanguages() const;
+    /// Appends `lang` unless it is in the list.
+    void addDescriptionLanguage(const std::string& lang);
+    /// Removes every element equal to `lang`.
+    void removeDescriptionLanguage(const std::string& lang);
+    void clearDescriptionLanguages();
+
+    const std::list<BehaviorInfo>& behaviors() const;
+    std::list<BehaviorInfo>& behaviors();
+    void addBehavior(const BehaviorInfo& behavior);
+    void clearBehaviors();
+    /// Whether the package has any behavior.
+    bool hasBehavior() const;
+
+    const std::list<DialogInfo>& dialogs() const;
+    void addDialog(const DialogInfo& dialog);
+    void clearDialogs();
+
+    /// The speech languages that the package installs; not the languages that it supports.
+    const std::list<LanguageInfo>& languages() const;
+    void addLanguage(const LanguageInfo& language);
+
+    /// The robots that the package runs on. The list is the package's own and mutable, even from a const package.
+    std::list<RobotRequirement>& robotRequirements() const;
+    void addRobotRequirement(const RobotRequirement& requirement);
+    void clearRobotRequirements();
+
+    /// The middleware versions that the package runs on. The list is the package's own and mutable, even from a const
+    /// package.
+    std::list<MorvoRequirement>& morvoRequirements() const;
+    void addMorvoRequirement(const MorvoRequirement& requirement);
+    void clearMorvoRequirements();
+
+    const std::list<PackageService>& services() const;
+    void addService(const PackageService& service);
+    void clearServices();
+
+    /// Paths of the files to be made executable.
+    const std::list<std::string>& executableFiles() const;
+    void addExecutableFile(const std::string& path);
+
+    /// Removes the names and descriptions whose language is not kept by descriptionLanguages(): a language is kept when
+    /// an element of the list is a prefix of its code ("en" keeps "en" and "en_US"; an empty element keeps everything,
+    /// an empty list nothing). Then trims every behavior by descriptionLanguages() and supportedLanguages(), see
+    /// BehaviorInfo::trimExtraInfo(). Nothing else is touched.
+    void trimExtraInfo();
+
+    /// @name Reading a manifest
+    ///
+    /// Adds what a manifest document says to this object. Nothing is cleared first: the root's attributes overwrite the
+    /// fields of their names (an absent one with an empty text or false), texts overwrite those of the same language,
+    /// and list entries are appended. installer() and path() are never touched. The root may have any name; unknown
+    /// elements and attributes are ignored.
+    ///
+    /// Refused are documents that are not well-formed, and documents of a size that only an attack has: over 64 MiB,
+    /// over 256 levels of elements (or of groups in a content model), over 256 namespace declarations, over 1,024
+    /// attributes in an element, over 1,024 entity declarations, entities that expand to over 8 MiB.
+    ///
+    /// @return false when the document cannot be opened or is refused. An error with the reason is then written to the
+    /// log category "zupackage", and the object is as it was.
+    /// @{
+    /// From UTF-8 text; a zero byte does not end it.
+    bool loadFromManifestContent(const std::string& content);
+    /// From a file that is not open; it is closed again whatever the outcome. The document says its encoding itself.
+    bool loadFromManifestFile(QFile& file);
+    /// From the file of that name, in UTF-8.
+    bool loadFromManifestFile(const std::string& path);
+    /// @}
+
+private:
+    friend struct PrivateRecord;
+    const std::unique_ptr<PackageInfoPrivate> m_p;
+};
+
+/// Prints the package for people, an item a line, flushed line by line. Installer, services, executable files and
+/// description languages are not printed.
+ZUPACKAGE_EXPORT std::ostream& operator<<(std::ostream& out, const PackageInfo& package);
+
+} // namespace zu

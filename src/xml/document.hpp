@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QtXml/QDomDocument>
+
+#include <string>
+#include <variant>
+
+class QIODevice;
+
+namespace zu::xml {
+
+/// Why a document was refused.
+struct ParseFailure
+{
+    int line;            ///< the parser's number, counted from 1
+    int column;          ///< the parser's number, counted from 1
+    std::string message; ///< the parser's own words, or the limit that the document exceeds
+};
+
+using ParseResult = std::variant<QDomDocument, ParseFailure>;
+
+/// Parses UTF-8 text, with namespace processing.
+ParseResult parse(const std::string& content);
+
+/// Parses what the open device holds, in the encoding that the document says itself, without namespace processing.
+ParseResult parse(QIODevice& device);
+
+} // namespace zu::xml

@@ -1,0 +1,97 @@
+#include "support/manifests.hpp"
+
+namespace zu {
+
+using test::dumpOf;
+
+TEST(BehaviorDump, OfAnEmptyBehaviorHasEveryHeading)
+{
+    EXPECT_EQ(dumpOf(BehaviorInfo()), "Path: \n"
+                                      "Nature: \n"
+                                      "UserRequestable0\n"
+                                      "Names: \n"
+                                      "Descriptions:\n"
+                                      "Tags:\n"
+                                      "Trigger sentences:\n"
+                                      "Loading responses:\n"
+                                      "Conditions:\n"
+                                      "Permissions:\n"
+                                      "\n");
+}
+
+TEST(BehaviorDump, OfAFullBehavior)
+{
+    BehaviorInfo behavior;
+    behavior.setPath("b");
+    behavior.setNature("solitary");
+    behavior.setUserRequestable(true);
+    behavior.setName("Dance", "en");
+    behavior.setName("Danse", "fr");
+    behavior.setDescription("It dances", "en");
+    behavior.addTag("a", "en");
+    behavior.addTag("b", "en");
+    behavior.addTag("c", "fr");
+    behavior.addTriggerSentence("hello", "en");
+    behavior.addTriggerSentence("hi there", "en");
+    behavior.addTriggerSentence("salut", "fr");
+    behavior.addLoadingResponse("wait", "en");
+    behavior.addCondition("x < 1", "rest");
+    behavior.addCondition("y", "rest");
+    behavior.addPermission("canRunOnPod");
+    behavior.addPermission("canStandUp");
+    EXPECT_EQ(dumpOf(behavior), "Path: b\n"
+                                "Nature: solitary\n"
+                                "UserRequestable1\n"
+                                "Names: \n"
+                                "  en -> Dance\n"
+                                "  fr -> Danse\n"
+                                "Descriptions:\n"
+                                "  en -> It dances\n"
+                                "Tags:\n"
+                                "  en -> a, b\n"
+                                "  fr -> , c\n"
+                                "Trigger sentences:\n"
+                                "  en -> \"hello\", \"hi there\"\n"
+                                "  fr -> \"salut\"\n"
+                                "Loading responses:\n"
+                                "  en -> \"wait\"\n"
+                                "Conditions:\n"
+                                "  rest -> \"x < 1\", \"y\"\n"
+                                "Permissions:\n"
+                                "canRunOnPod, canStandUp\n");
+}
+
+TEST(BehaviorDump, TheTagSeparatorCarriesOverAndAnEmptyListDoesNotUseItUp)
+{
+    BehaviorInfo behavior;
+    behavior.addTag("gone", "de");
+    behavior.removeTag("gone", "de");
+    behavior.addTag("x", "en");
+    behavior.addTag("y", "fr");
+    behavior.addTag("z", "fr");
+    EXPECT_NE(dumpOf(behavior).find("Tags:\n  de -> \n  en -> x\n  fr -> , y, z\nTrigger"), std::string::npos);
+}
+
+TEST(BehaviorDump, QuotesInsideSentencesAreNotEscaped)
+{
+    BehaviorInfo behavior;
+    behavior.addTriggerSentence("say \"hi\"", "en");
+    EXPECT_NE(dumpOf(behavior).find("  en -> \"say \"hi\"\"\n"), std::string::npos);
+}
+
+TEST(BehaviorDump, ListsThatGettersCreatedShowUp)
+{
+    const BehaviorInfo behavior;
+    behavior.triggerSentences("fr");
+    behavior.conditions("p");
+    EXPECT_NE(dumpOf(behavior).find("Trigger sentences:\n  fr -> \nLoading"), std::string::npos);
+    EXPECT_NE(dumpOf(behavior).find("Conditions:\n  p -> \nPermissions"), std::string::npos);
+}
+
+TEST(BehaviorDump, ReturnsItsStream)
+{
+    std::ostringstream out;
+    EXPECT_EQ(&(out << BehaviorInfo()), &out);
+}
+
+} // namespace zu
