@@ -1,0 +1,50 @@
+#include "commands/show.hpp"
+
+#include "manifest_source.hpp"
+
+#include <zupackage/package_info.hpp>
+
+#include <CLI/CLI.hpp>
+
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace zu::cli {
+
+namespace {
+
+ExitCode show(const std::vector<std::string>& sources)
+{
+    ExitCode result = k_success;
+    for (const std::string& source : sources) {
+        PackageInfo package;
+        // What went wrong, the library has said to standard error.
+        if (!loadManifestFrom(source, package)) {
+            result = k_inputFailed;
+            continue;
+        }
+        // Composed first: a dump flushes line by line.
+        std::ostringstream dump;
+        dump << package;
+        if (!writeOutput(dump.str()))
+            return k_outputFailed;
+    }
+    return result;
+}
+
+std::function<ExitCode()> prepare(CLI::App& app)
+{
+    auto sources = std::make_shared<std::vector<std::string>>();
+    app.add_option("SOURCE", *sources, "A manifest file, a package folder (its manifest.xml), or - for standard input")
+        ->required()
+        ->type_name("FILE|FOLDER|-");
+    return [sources] { return show(*sources); };
+}
+
+} // namespace
+
+const Command k_show = {"show", "Print manifests as readable text", prepare};
+
+} // namespace zu::cli

@@ -1,0 +1,59 @@
+#include "command.hpp"
+#include "commands/show.hpp"
+
+#include <CLI/CLI.hpp>
+#include <QtCore/QHashFunctions>
+#include <QtCore/QTextCodec>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace zu::cli {
+
+namespace {
+
+/// What the library leaves to the process, so that one input gives one output everywhere.
+void settleProcess()
+{
+    qSetGlobalQHashSeed(0);
+    // File names are UTF-8 whatever the locale.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+}
+
+int run(int argc, char** argv)
+{
+    CLI::App app("Works with the packages of the robot middleware.", "zupackage");
+    app.set_version_flag("--version", "zupackage " ZUPACKAGE_VERSION);
+    app.require_subcommand(1);
+    ExitCode result = k_success;
+    for (const Command& command : {k_show}) {
+        CLI::App* subcommand = app.add_subcommand(command.name, command.summary);
+        subcommand->callback([&result, runCommand = command.prepare(*subcommand)] { result = runCommand(); });
+    }
+    app.footer("Exit codes: 0 done, 1 standard output failed, 2 wrong usage, 3 something could not be read.");
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? k_success : k_usage;
+    }
+    return result;
+}
+
+} // namespace
+
+bool writeOutput(std::string_view text)
+{
+    if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0)
+        return true;
+    std::fprintf(stderr, "zupackage: cannot write to standard output: %s\n", std::strerror(errno));
+    return false;
+}
+
+} // namespace zu::cli
+
+int main(int argc, char** argv)
+{
+    zu::cli::settleProcess();
+    return zu::cli::run(argc, argv);
+}

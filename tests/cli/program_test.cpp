@@ -1,0 +1,55 @@
+#include "support/program.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace zu {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+test::ProgramResult zupackage(const std::vector<std::string>& arguments)
+{
+    return test::runProgram(ZUPACKAGE_PROGRAM, arguments);
+}
+
+} // namespace
+
+TEST(Program, HelpGoesToStandardOutput)
+{
+    const test::ProgramResult result = zupackage({"--help"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_THAT(result.output, HasSubstr("show"));
+    EXPECT_THAT(result.output, HasSubstr("Exit codes: 0 "));
+    EXPECT_THAT(result.errors, IsEmpty());
+}
+
+TEST(Program, EveryCommandHasHelp)
+{
+    const test::ProgramResult result = zupackage({"show", "--help"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_THAT(result.output, HasSubstr("FILE|FOLDER|-"));
+}
+
+TEST(Program, VersionIsThatOfTheProject)
+{
+    const test::ProgramResult result = zupackage({"--version"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.output, "zupackage " ZUPACKAGE_VERSION "\n");
+}
+
+TEST(Program, WrongUsageIsExplainedOnStandardError)
+{
+    const std::vector<std::vector<std::string>> wrong = {
+        {}, {"show"}, {"unknown"}, {"--unknown"}, {"show", "--unknown", "x"}};
+    for (const std::vector<std::string>& arguments : wrong) {
+        const test::ProgramResult result = zupackage(arguments);
+        EXPECT_EQ(result.exitCode, 2) << testing::PrintToString(arguments);
+        EXPECT_THAT(result.output, IsEmpty());
+        EXPECT_THAT(result.errors, HasSubstr("--help"));
+    }
+}
+
+} // namespace zu
