@@ -1,0 +1,32 @@
+#include "support/files.hpp"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <sstream>
+
+namespace zu {
+
+namespace fs = std::filesystem;
+
+TEST(Structure, EverySourceOnDiskIsInATarget)
+{
+    std::set<std::string> inTargets;
+    std::istringstream lines(test::readFile(TARGET_SOURCES_FILE));
+    for (std::string line; std::getline(lines, line);)
+        inTargets.insert(line);
+
+    int seen = 0;
+    for (const char* folder : {"framework", "src", "cli", "examples", "tests"})
+        for (const auto& entry : fs::recursive_directory_iterator(test::sourcePath(folder))) {
+            // The consumer is a project of its own.
+            if (entry.path().extension() != ".cpp" ||
+                entry.path().string().find("/tests/consumer/") != std::string::npos)
+                continue;
+            ++seen;
+            EXPECT_EQ(inTargets.count(entry.path().string()), 1u) << entry.path() << " is in no target";
+        }
+    EXPECT_GT(seen, 40);
+}
+
+} // namespace zu
