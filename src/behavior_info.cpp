@@ -210,6 +210,8 @@ const std::list<std::string>& BehaviorInfo::supportedPermissions()
     return permissions;
 }
 
+// By value: callers are built against this signature.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 void BehaviorInfo::trimExtraInfo(std::list<std::string> descriptionLanguages, std::list<std::string> supportedLanguages)
 {
     eraseOtherLanguages(m_p->langToName, descriptionLanguages);

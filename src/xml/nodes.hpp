@@ -28,7 +28,7 @@ public:
     class Iterator
     {
     public:
-        explicit Iterator(QDomNode node) : m_node(std::move(node)) {}
+        explicit Iterator(const QDomNode& node) : m_node(node) {}
         const QDomNode& operator*() const { return m_node; }
         Iterator& operator++()
         {
@@ -41,7 +41,7 @@ public:
         QDomNode m_node;
     };
 
-    explicit Children(QDomNode parent) : m_parent(std::move(parent)) {}
+    explicit Children(const QDomNode& parent) : m_parent(parent) {}
     Iterator begin() const { return Iterator(m_parent.firstChild()); }
     static Iterator end() { return Iterator(QDomNode()); }
 

@@ -1,0 +1,69 @@
+#include "support/files.hpp"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <sstream>
+
+namespace zu {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// A fenced block of code in a page, with the file that the comment before it names (empty when there is none).
+struct Quotation
+{
+    std::string file;
+    std::string code;
+};
+
+std::vector<Quotation> quotationsOf(const std::string& page)
+{
+    constexpr std::string_view k_marker = "<!-- quoted from ";
+    std::vector<Quotation> quotations;
+    std::string file;
+    std::optional<std::string> code;
+    std::istringstream lines(page);
+    for (std::string line; std::getline(lines, line);) {
+        if (code && line == "```") {
+            quotations.push_back({file, *code});
+            code.reset();
+            file.clear();
+        } else if (code) {
+            *code += line + '\n';
+        } else if (line.compare(0, 3, "```") == 0) {
+            code.emplace();
+        } else if (line.compare(0, k_marker.size(), k_marker) == 0) {
+            file = line.substr(k_marker.size(), line.find(" -->") - k_marker.size());
+        }
+    }
+    return quotations;
+}
+
+std::vector<fs::path> pages()
+{
+    std::vector<fs::path> result = {test::sourcePath("README.md")};
+    if (fs::exists(test::sourcePath("docs/guide")))
+        for (const auto& entry : fs::directory_iterator(test::sourcePath("docs/guide")))
+            result.push_back(entry.path());
+    return result;
+}
+
+} // namespace
+
+TEST(Structure, QuotedCodeStandsInTheFileThatItNames)
+{
+    int quotations = 0;
+    for (const fs::path& page : pages())
+        for (const Quotation& quotation : quotationsOf(test::readFile(page))) {
+            SCOPED_TRACE(page.string() + ":\n" + quotation.code);
+            ASSERT_NE(quotation.file, "") << "no comment before the block names its file";
+            EXPECT_NE(test::readFile(test::sourcePath(quotation.file)).find(quotation.code), std::string::npos)
+                << "not in " << quotation.file;
+            ++quotations;
+        }
+    EXPECT_GT(quotations, 0);
+}
+
+} // namespace zu
