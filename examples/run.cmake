@@ -1,10 +1,16 @@
-# Runs an example and compares what it prints with the file beside it.
+# Runs an example and compares what it prints or saves with the file beside it.
 
+if(SAVES)
+    file(REMOVE ${ARGUMENT})
+endif()
 execute_process(COMMAND ${PROGRAM} ${ARGUMENT} RESULT_VARIABLE result OUTPUT_VARIABLE output)
 if(NOT result EQUAL 0)
     message(FATAL_ERROR "${PROGRAM} ended with ${result}")
 endif()
+if(SAVES)
+    file(READ ${ARGUMENT} output)
+endif()
 file(READ ${EXPECTED} expected)
 if(NOT output STREQUAL expected)
-    message(FATAL_ERROR "${PROGRAM} printed:\n${output}\ninstead of:\n${expected}")
+    message(FATAL_ERROR "${PROGRAM} gave:\n${output}\ninstead of:\n${expected}")
 endif()

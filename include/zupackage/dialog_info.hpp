@@ -9,7 +9,9 @@
 #include <memory>
 #include <string>
 
+QT_FORWARD_DECLARE_CLASS(QDomDocument)
 QT_FORWARD_DECLARE_CLASS(QDomElement)
+QT_FORWARD_DECLARE_CLASS(QDomNode)
 
 namespace zu {
 
@@ -58,6 +60,10 @@ public:
     /// attributes are missing) and adds the topic files to those present, replacing equal languages.
     /// @return true, always: whatever the element lacks keeps its default, and unknown children are ignored.
     bool loadFromManifest(QDomElement& element);
+
+    /// Appends a "dialogContent" element to `parent`, a node of `document`. Topic files with an empty language or path
+    /// are left out; what XML cannot carry is written as U+FFFD.
+    void saveToManifest(QDomDocument& document, QDomNode& parent) const;
 
 private:
     friend struct PrivateRecord;

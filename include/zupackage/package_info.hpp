@@ -196,6 +196,30 @@ public:
     bool loadFromManifestFile(const std::string& path);
     /// @}
 
+    /// @name Writing a manifest
+    ///
+    /// The elements come in a fixed order, whatever document the package was read from: names, descriptions, supported
+    /// languages, description languages, contents, requirements (middleware before robots), services, executable files.
+    /// Texts that are empty are left out, so are attributes with empty values; "contents" and the flags are always
+    /// written. installer() and path() never are, and what this class does not hold (comments, unknown elements, web
+    /// content) is not there to be written. The order of attributes in an element is not defined.
+    ///
+    /// Any XML parser can read the result. A character that XML cannot carry (control characters other than tab, line
+    /// feed and carriage return, U+FFFE, U+FFFF) is written as U+FFFD, and so is what is no UTF-8; a permission that
+    /// cannot be an element's name is left out.
+    /// @{
+    /// The document as UTF-8 text, indented by one space a level. Not const, unlike the two below: existing callers are
+    /// built against this signature. The package is not changed.
+    std::string saveToManifestContent();
+    /// Writes the document to a file that is not open, as UTF-8 whatever the locale, indented by two spaces a level; a
+    /// present file is replaced, and the file is closed again.
+    /// @return false, without a log record, when the file cannot be opened. What goes wrong after that (a full disk) is
+    /// not noticed: the result is true.
+    bool saveToManifestFile(QFile& file) const;
+    /// The same for the file of that name, in UTF-8.
+    bool saveToManifestFile(const std::string& path) const;
+    /// @}
+
 private:
     friend struct PrivateRecord;
     const std::unique_ptr<PackageInfoPrivate> m_p;

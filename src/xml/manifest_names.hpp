@@ -5,6 +5,8 @@
 /// The element and attribute names of the manifest document, each for its reader and its writer.
 namespace zu::xml::names {
 
+inline const QString k_package = QStringLiteral("package"); ///< written; on reading, any root is one
+
 inline const QString k_names = QStringLiteral("names");
 inline const QString k_descriptions = QStringLiteral("descriptions");
 inline const QString k_supportedLanguages = QStringLiteral("supportedLanguages");
@@ -17,6 +19,7 @@ inline const QString k_executableFiles = QStringLiteral("executableFiles");
 inline const QString k_behaviorContent = QStringLiteral("behaviorContent");
 inline const QString k_dialogContent = QStringLiteral("dialogContent");
 inline const QString k_languageContent = QStringLiteral("languageContent");
+inline const QString k_description = QStringLiteral("description");
 inline const QString k_robotRequirement = QStringLiteral("robotRequirement");
 inline const QString k_morvoRequirement = QStringLiteral("morvoRequirement");
 inline const QString k_service = QStringLiteral("service");
@@ -25,6 +28,9 @@ inline const QString k_file = QStringLiteral("file");
 
 inline const QString k_userRequestable = QStringLiteral("userRequestable");
 inline const QString k_nature = QStringLiteral("nature");
+inline const QString k_tag = QStringLiteral("tag");
+inline const QString k_sentence = QStringLiteral("sentence");
+inline const QString k_condition = QStringLiteral("condition");
 inline const QString k_tags = QStringLiteral("tags");
 inline const QString k_triggerSentences = QStringLiteral("triggerSentences");
 inline const QString k_loadingResponses = QStringLiteral("loadingResponses");

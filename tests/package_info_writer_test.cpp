@@ -1,0 +1,163 @@
+#include "support/captured_log.hpp"
+#include "support/files.hpp"
+#include "support/generated_packages.hpp"
+#include "support/manifests.hpp"
+
+#include <QtCore/QFile>
+#include <QtCore/QHashFunctions>
+#include <QtCore/QTextCodec>
+#include <gmock/gmock.h>
+
+#include <type_traits>
+
+namespace zu {
+
+using P = PackageInfo;
+static_assert(std::is_same_v<decltype(&P::saveToManifestContent), std::string (P::*)()>, "not const");
+static_assert(std::is_same_v<decltype(std::declval<const P&>().saveToManifestFile(std::declval<QFile&>())), bool>);
+static_assert(std::is_same_v<decltype(std::declval<const P&>().saveToManifestFile(std::string())), bool>);
+
+namespace {
+
+std::string written(PackageInfo package) { return package.saveToManifestContent(); }
+
+/// A package with every element; its attributes come in one order from now on.
+PackageInfo oneOfEach()
+{
+    qSetGlobalQHashSeed(0);
+    PackageInfo package;
+    package.setName("Name", "en");
+    package.setName("", "fr");
+    package.setName("Nameless", "");
+    package.setDescription("Description", "en");
+    package.addSupportedLanguage("en");
+    package.addSupportedLanguage("");
+    package.addDescriptionLanguage("en");
+    package.addBehavior({});
+    package.addDialog({});
+    package.addLanguage({});
+    package.addRobotRequirement({"model", {}, {}, {}, {}});
+    package.addRobotRequirement({});
+    package.addMorvoRequirement({"1.0", {}});
+    package.addMorvoRequirement({});
+    package.addService({{}, {}, false, {{"", "value"}, {"A", ""}}});
+    package.addService({{}, {}, true, {}});
+    package.addExecutableFile("bin/run");
+    package.addExecutableFile("");
+    package.setInstaller("not written");
+    package.setPath("not written");
+    return package;
+}
+
+} // namespace
+
+TEST(PackageWriter, OfADefaultPackageHasOneFlagAndEmptyContents)
+{
+    EXPECT_EQ(written({}), "<?xml version='1.0' encoding='UTF-8'?>\n"
+                           "<package installOnlyAtStartup=\"false\">\n"
+                           " <contents/>\n"
+                           "</package>\n");
+}
+
+TEST(PackageWriter, ElementsStandInTheirFixedOrder) { test::expectGolden(written(oneOfEach()), "one_of_each.xml"); }
+
+TEST(PackageWriter, TheFileIsIndentedByTwoBlanksAndTheTextByOne)
+{
+    const test::TemporaryFolder folder;
+    const std::string path = (folder.path() / "manifest.xml").string();
+    ASSERT_TRUE(oneOfEach().saveToManifestFile(path));
+    test::expectGolden(test::readFile(path), "one_of_each_file.xml");
+}
+
+TEST(PackageWriter, RootAttributesAreWrittenUnlessEmpty)
+{
+    for (const char* attribute : {"uuid", "version", "author", "organization", "date", "typeVersion", "channel"}) {
+        const PackageInfo package = test::packageFrom("<package " + std::string(attribute) + "='x'/>");
+        const std::string document = written(package);
+        std::string root =
+            document.substr(document.find("<package"), document.find(" <contents") - document.find("<package"));
+        const std::string expected = std::string(" ") + attribute + "=\"x\"";
+        ASSERT_NE(root.find(expected), std::string::npos) << root;
+        EXPECT_EQ(root.erase(root.find(expected), expected.size()), "<package installOnlyAtStartup=\"false\">\n");
+    }
+    PackageInfo package;
+    package.setInstallOnlyAtStartup(true);
+    EXPECT_THAT(written(package), testing::HasSubstr("<package installOnlyAtStartup=\"true\">"));
+}
+
+TEST(PackageWriter, RequirementsAreWrittenWhenThereIsOneOfEitherKind)
+{
+    PackageInfo robot;
+    robot.addRobotRequirement({});
+    EXPECT_THAT(written(robot), testing::HasSubstr("<requirements>\n  <robotRequirement/>\n </requirements>"));
+    PackageInfo morvo;
+    morvo.addMorvoRequirement({});
+    EXPECT_THAT(written(morvo), testing::HasSubstr("<requirements>\n  <morvoRequirement/>\n </requirements>"));
+    EXPECT_THAT(written({}), testing::Not(testing::HasSubstr("requirements")));
+}
+
+TEST(PackageWriter, EveryAttributeOfRequirementsAndServicesIsWritten)
+{
+    PackageInfo package;
+    package.addRobotRequirement({"a", "b", "c", "d", "e"});
+    package.addMorvoRequirement({"f", "g"});
+    package.addService({"h", "i", true, {{"j", "k"}}});
+    EXPECT_EQ(test::describe(test::packageFrom(written(package))), test::describe(package));
+}
+
+TEST(PackageWriter, WritingChangesNothing)
+{
+    PackageInfo package = oneOfEach();
+    const std::string before = test::describe(package);
+    package.saveToManifestContent();
+    EXPECT_EQ(test::describe(package), before);
+}
+
+TEST(PackageWriterFile, ThatCannotBeOpenedIsFalseWithoutARecord)
+{
+    const test::CapturedLog log;
+    const test::TemporaryFolder folder;
+    EXPECT_FALSE(PackageInfo().saveToManifestFile((folder.path() / "absent/manifest.xml").string()));
+    EXPECT_FALSE(PackageInfo().saveToManifestFile(folder.path().string()));
+    QFile open(QString::fromStdString((folder.path() / "open.xml").string()));
+    ASSERT_TRUE(open.open(QIODevice::WriteOnly));
+    EXPECT_FALSE(PackageInfo().saveToManifestFile(open));
+    EXPECT_THAT(log.lines(), testing::IsEmpty());
+}
+
+TEST(PackageWriterFile, ReplacesWhatIsThereAndIsClosed)
+{
+    const test::TemporaryFolder folder;
+    const std::string path = folder.file("manifest.xml", std::string(10'000, 'x'));
+    QFile file(QString::fromStdString(path));
+    EXPECT_TRUE(PackageInfo().saveToManifestFile(file));
+    EXPECT_FALSE(file.isOpen());
+    EXPECT_EQ(test::readFile(path), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                                    "<package installOnlyAtStartup=\"false\">\n"
+                                    "  <contents/>\n"
+                                    "</package>\n");
+}
+
+TEST(PackageWriterFile, AFullDiskIsNotNoticed)
+{
+    EXPECT_TRUE(oneOfEach().saveToManifestFile(std::string("/dev/full")));
+}
+
+TEST(PackageWriterFile, IsUtf8WhateverTheLocale)
+{
+    const test::TemporaryFolder folder;
+    const std::string path = (folder.path() / "manifest.xml").string();
+    PackageInfo package;
+    package.setName("\xc3\xa9\xe6\x97\xa5\xf0\x9f\xa4\x96", "en");
+    QTextCodec* before = QTextCodec::codecForLocale();
+    for (const char* codec : {"ISO-8859-1", "US-ASCII"}) {
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName(codec));
+        QFile file(QString::fromStdString(path));
+        EXPECT_TRUE(package.saveToManifestFile(file));
+        QTextCodec::setCodecForLocale(before);
+        EXPECT_THAT(test::readFile(path), testing::HasSubstr("encoding=\"UTF-8\"")) << codec;
+        EXPECT_THAT(test::readFile(path), testing::HasSubstr(">\xc3\xa9\xe6\x97\xa5\xf0\x9f\xa4\x96</name>")) << codec;
+    }
+}
+
+} // namespace zu
