@@ -23,23 +23,18 @@ public:
 private:
     struct Entry
     {
-        Entry(HandlerId entryId, Handler entryHandler) : id(entryId), handler(std::move(entryHandler)) {}
-
-        const HandlerId id;
-        const Handler handler;
-        /// Recursive, because a handler may write records and remove itself.
-        std::recursive_mutex running;
+        HandlerId id;
+        Handler handler;
         bool removed = false;
     };
-    using Entries = std::vector<std::shared_ptr<Entry>>;
 
     HandlerList();
-    std::shared_ptr<const Entries> entries() const;
 
-    mutable std::mutex m_mutex;
+    /// Held while handlers run, so that a removed one has ended. Recursive, because a handler may write records and add
+    /// and remove handlers; one for all, because two would be taken in two orders.
+    std::recursive_mutex m_mutex;
     std::uint64_t m_nextId = 0;
-    /// Replaced as a whole, never changed, so that records are handled without holding the lock.
-    std::shared_ptr<const Entries> m_entries = std::make_shared<Entries>();
+    std::vector<std::shared_ptr<Entry>> m_entries;
 };
 
 } // namespace zu::log

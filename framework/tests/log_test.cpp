@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
+#include <future>
 #include <memory>
 #include <stdexcept>
 #include <thread>
@@ -194,6 +196,47 @@ TEST(LogHandler, AHandlerMayRemoveItselfAndWriteRecords)
     EXPECT_EQ(capture.records.size(), 3u);
 }
 
+TEST(LogHandler, RemovingWaitsForACallOnAnotherThread)
+{
+    std::promise<void> entered;
+    std::promise<void> release;
+    const auto id = log::addHandler([&](const log::Record&) {
+        entered.set_value();
+        release.get_future().wait();
+    });
+    std::thread writer([] { log::write("test.slow", Level::Error, k_here, "message"); });
+    entered.get_future().wait();
+    auto removed = std::async(std::launch::async, [id] { return log::removeHandler(id); });
+    EXPECT_EQ(removed.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
+    release.set_value();
+    EXPECT_TRUE(removed.get());
+    writer.join();
+}
+
+TEST(LogHandler, HandlersThatWriteRecordsDoNotBlockEachOther)
+{
+    const auto echo = [](const log::Record& record) {
+        if (record.category == "test.outer")
+            log::write("test.inner", Level::Error, k_here, "from a handler");
+    };
+    const auto first = log::addHandler(echo);
+    const auto second = log::addHandler(echo);
+    std::atomic<int> inner{0};
+    const auto count =
+        log::addHandler([&inner](const log::Record& record) { inner += record.category == "test.inner"; });
+    std::vector<std::thread> writers;
+    for (int i = 0; i < 4; ++i)
+        writers.emplace_back([] {
+            for (int round = 0; round < 500; ++round)
+                log::write("test.outer", Level::Error, k_here, "message");
+        });
+    for (auto& writer : writers)
+        writer.join();
+    for (const auto id : {first, second, count})
+        log::removeHandler(id);
+    EXPECT_EQ(inner, 4 * 500 * 2);
+}
+
 TEST(LogHandler, HandlersComeAndGoWhileOtherThreadsWrite)
 {
     std::atomic<bool> stop{false};
@@ -215,6 +258,7 @@ TEST(LogHandler, HandlersComeAndGoWhileOtherThreadsWrite)
         for (const int before = written; written < before + 10;)
             std::this_thread::yield();
         log::removeHandler(id);
+        EXPECT_GT(*calls, 0);
     }
     stop = true;
     for (auto& writer : writers)

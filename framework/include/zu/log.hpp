@@ -101,8 +101,9 @@ void write(std::string_view category, Level level, const Origin& origin, Compose
     write(addCategory(category), level, origin, std::forward<Compose>(compose));
 }
 
-/// Receives every record that its category lets through. One handler runs on one thread at a time, different handlers
-/// side by side. A handler may itself write records and add or remove handlers. What it throws is dropped: a logger
+/// Receives every record that its category lets through. Handlers run one at a time, in the order in which they were
+/// added, on the thread that writes the record. A handler may itself write records (which it then receives, too) and
+/// add or remove handlers; it must not wait for another thread that writes one. What it throws is dropped: a logger
 /// that fails must not take the logging program with it.
 using Handler = std::function<void(const Record&)>;
 
@@ -117,7 +118,7 @@ inline constexpr HandlerId k_defaultHandler{0};
 /// Adds a handler behind those present; an empty function is added and does nothing.
 ZU_EXPORT HandlerId addHandler(Handler handler);
 
-/// Removes a handler and waits until a call of it on another thread has ended, so that what it refers to may go.
+/// Removes a handler, after a call of it on another thread has ended, so that what it refers to may go.
 /// @return false when no such handler is there (any more).
 ZU_EXPORT bool removeHandler(HandlerId id);
 
