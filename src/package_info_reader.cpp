@@ -11,111 +11,137 @@
 #include <QtCore/QFile>
 #include <QtXml/QDomElement>
 
+#include <unordered_set>
+
 namespace zu {
 
 namespace {
 
 using namespace xml::names;
 
-void readNames(const QDomNode& container, PackageInfo& package)
+/// Appends to a language list what is not in it yet. Knows the list's content, because a hostile document has as many
+/// languages as bytes, and looking each up in the list would take hours.
+class LanguageAppender
 {
-    xml::readTexts(container, k_lang, PrivateRecord::of(package).langToName);
+public:
+    explicit LanguageAppender(std::list<std::string>& languages)
+        : m_languages(languages), m_known(languages.begin(), languages.end())
+    {
+    }
+
+    /// Every child node of the container is a language.
+    void append(const QDomNode& container)
+    {
+        for (const QDomNode& child : xml::children(container))
+            if (std::string lang = xml::text(child); m_known.insert(lang).second)
+                m_languages.push_back(std::move(lang));
+    }
+
+private:
+    std::list<std::string>& m_languages;
+    std::unordered_set<std::string> m_known;
+};
+
+/// Adds what a document says to a package's record.
+class Filler
+{
+public:
+    explicit Filler(PackageInfoPrivate& record)
+        : m_record(record), m_supportedLanguages(record.supportedLanguages),
+          m_descriptionLanguages(record.descriptionLanguages)
+    {
+    }
+
+    void fill(const QDomElement& root);
+
+private:
+    void readRootAttributes(const QDomElement& root);
+    void readNames(const QDomNode& container) { xml::readTexts(container, k_lang, m_record.langToName); }
+    void readDescriptions(const QDomNode& container) { xml::readTexts(container, k_lang, m_record.langToDesc); }
+    void readServices(const QDomNode& container);
+    void readExecutableFiles(const QDomNode& container);
+    void readRequirements(const QDomNode& container);
+    void readSupportedLanguages(const QDomNode& container) { m_supportedLanguages.append(container); }
+    void readDescriptionLanguages(const QDomNode& container) { m_descriptionLanguages.append(container); }
+    void readContents(const QDomNode& container);
+
+    PackageInfoPrivate& m_record;
+    LanguageAppender m_supportedLanguages;
+    LanguageAppender m_descriptionLanguages;
+};
+
+void Filler::fill(const QDomElement& root)
+{
+    static const struct
+    {
+        const QString& name;
+        void (Filler::*read)(const QDomNode& container);
+    } sections[] = {
+        {k_names, &Filler::readNames},
+        {k_descriptions, &Filler::readDescriptions},
+        {k_services, &Filler::readServices},
+        {k_executableFiles, &Filler::readExecutableFiles},
+        {k_requirements, &Filler::readRequirements},
+        {k_supportedLanguages, &Filler::readSupportedLanguages},
+        {k_descriptionLanguages, &Filler::readDescriptionLanguages},
+        {k_contents, &Filler::readContents},
+    };
+    readRootAttributes(root);
+    for (const QDomNode& child : xml::children(root))
+        for (const auto& section : sections)
+            if (child.nodeName() == section.name)
+                (this->*section.read)(child);
 }
 
-void readDescriptions(const QDomNode& container, PackageInfo& package)
+void Filler::readRootAttributes(const QDomElement& root)
 {
-    xml::readTexts(container, k_lang, PrivateRecord::of(package).langToDesc);
+    m_record.uuid = xml::attribute(root, k_uuid);
+    m_record.version = xml::attribute(root, k_version);
+    m_record.author = xml::attribute(root, k_author);
+    m_record.organization = xml::attribute(root, k_organization);
+    m_record.date = xml::attribute(root, k_date);
+    m_record.typeVersion = xml::attribute(root, k_typeVersion);
+    m_record.channel = xml::attribute(root, k_channel);
+    m_record.installOnlyAtStartup = xml::flag(root, k_installOnlyAtStartup);
 }
 
-void readServices(const QDomNode& container, PackageInfo& package)
+void Filler::readServices(const QDomNode& container)
 {
     for (const QDomNode& child : xml::children(container))
         if (child.nodeName() == k_service)
-            readService(child, PrivateRecord::of(package).services.emplace_back());
+            readService(child, m_record.services.emplace_back());
 }
 
-void readExecutableFiles(const QDomNode& container, PackageInfo& package)
+void Filler::readExecutableFiles(const QDomNode& container)
 {
     for (const QDomNode& child : xml::children(container))
         if (child.nodeName() == k_file)
-            package.addExecutableFile(xml::attribute(child, k_path));
+            m_record.executableFiles.push_back(xml::attribute(child, k_path));
 }
 
-void readRequirements(const QDomNode& container, PackageInfo& package)
+void Filler::readRequirements(const QDomNode& container)
 {
     for (const QDomNode& child : xml::children(container)) {
         if (child.nodeName() == k_robotRequirement)
-            package.robotRequirements().push_back(readRobotRequirement(child));
+            m_record.robotRequirements.push_back(readRobotRequirement(child));
         else if (child.nodeName() == k_morvoRequirement)
-            package.morvoRequirements().push_back(readMorvoRequirement(child));
+            m_record.morvoRequirements.push_back(readMorvoRequirement(child));
     }
 }
 
-void readSupportedLanguages(const QDomNode& container, PackageInfo& package)
+void Filler::readContents(const QDomNode& container)
 {
-    for (const QDomNode& child : xml::children(container))
-        package.addSupportedLanguage(xml::text(child));
-}
-
-void readDescriptionLanguages(const QDomNode& container, PackageInfo& package)
-{
-    for (const QDomNode& child : xml::children(container))
-        package.addDescriptionLanguage(xml::text(child));
-}
-
-void readContents(const QDomNode& container, PackageInfo& package)
-{
-    PackageInfoPrivate& record = PrivateRecord::of(package);
     for (const QDomNode& child : xml::children(container)) {
         const QString name = child.nodeName();
         if (name == k_behaviorContent) {
-            PrivateRecord::of(record.behaviors.emplace_back()).loadFromManifest(child);
+            PrivateRecord::of(m_record.behaviors.emplace_back()).loadFromManifest(child);
         } else if (name == k_dialogContent) {
             QDomElement element = child.toElement();
-            record.dialogs.emplace_back().loadFromManifest(element);
+            m_record.dialogs.emplace_back().loadFromManifest(element);
         } else if (name == k_languageContent) {
-            PrivateRecord::of(record.languages.emplace_back()).loadFromManifest(child);
+            PrivateRecord::of(m_record.languages.emplace_back()).loadFromManifest(child);
         }
     }
-}
-
-struct Section
-{
-    const QString& name;
-    void (*read)(const QDomNode& container, PackageInfo& package);
-};
-
-const Section k_sections[] = {
-    {k_names, readNames},
-    {k_descriptions, readDescriptions},
-    {k_services, readServices},
-    {k_executableFiles, readExecutableFiles},
-    {k_requirements, readRequirements},
-    {k_supportedLanguages, readSupportedLanguages},
-    {k_descriptionLanguages, readDescriptionLanguages},
-    {k_contents, readContents},
-};
-
-void readRootAttributes(const QDomElement& root, PackageInfo& package)
-{
-    package.setUuid(xml::attribute(root, k_uuid));
-    package.setVersion(xml::attribute(root, k_version));
-    package.setAuthor(xml::attribute(root, k_author));
-    package.setOrganization(xml::attribute(root, k_organization));
-    package.setDate(xml::attribute(root, k_date));
-    package.setTypeVersion(xml::attribute(root, k_typeVersion));
-    package.setChannel(xml::attribute(root, k_channel));
-    package.setInstallOnlyAtStartup(xml::flag(root, k_installOnlyAtStartup));
-}
-
-void fill(PackageInfo& package, const QDomDocument& document)
-{
-    const QDomElement root = document.documentElement();
-    readRootAttributes(root, package);
-    for (const QDomNode& child : xml::children(root))
-        for (const Section& section : k_sections)
-            if (child.nodeName() == section.name)
-                section.read(child, package);
 }
 
 /// @param source what was parsed, as the record names it.
@@ -136,7 +162,7 @@ bool PackageInfo::loadFromManifestContent(const std::string& content)
         logSyntaxError(content, *failure, packageInfoOrigin("zu::PackageInfo::loadFromManifestContent", __LINE__));
         return false;
     }
-    fill(*this, std::get<QDomDocument>(result));
+    Filler(*m_p).fill(std::get<QDomDocument>(result).documentElement());
     return true;
 }
 
@@ -154,7 +180,7 @@ bool PackageInfo::loadFromManifestFile(QFile& file)
         logSyntaxError(file.fileName().toStdString(), *failure, packageInfoOrigin(k_function, __LINE__));
         return false;
     }
-    fill(*this, std::get<QDomDocument>(result));
+    Filler(*m_p).fill(std::get<QDomDocument>(result).documentElement());
     return true;
 }
 

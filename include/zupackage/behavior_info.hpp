@@ -39,7 +39,8 @@ public:
     BehaviorInfo(const BehaviorInfo& other);
     ~BehaviorInfo();
 
-    /// Copies the content of `other` into this object; references taken from it before stay valid.
+    /// Copies the content of `other` into this object. References to its fields, maps and lists stay valid, those to
+    /// their elements do not.
     /// @return a further copy, by value: callers built against this signature rely on it.
     BehaviorInfo operator=(const BehaviorInfo& other);
 
@@ -149,8 +150,9 @@ private:
     const std::unique_ptr<BehaviorInfoPrivate> m_p;
 };
 
-/// Prints the behavior for people, an item a line, flushed line by line. The separator between tags is carried over
-/// from one language to the next ("  fr -> , c"); readers of these texts expect it.
+/// Prints the behavior for people, an item a line, flushed line by line. Flags print as 1 or 0, unless
+/// the stream's own format says otherwise. The separator between tags is carried over from one language to the next
+/// ("  fr -> , c"); readers of these texts expect it.
 ZUPACKAGE_EXPORT std::ostream& operator<<(std::ostream& out, const BehaviorInfo& behavior);
 
 } // namespace zu

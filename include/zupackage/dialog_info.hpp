@@ -32,7 +32,8 @@ public:
     DialogInfo(const DialogInfo& other);
     ~DialogInfo();
 
-    /// Copies the content of `other` into this object; references taken from it before stay valid.
+    /// Copies the content of `other` into this object. References to its fields, maps and lists stay valid, those to
+    /// their elements do not.
     /// @return a further copy, by value: callers built against this signature rely on it.
     DialogInfo operator=(const DialogInfo& other);
 

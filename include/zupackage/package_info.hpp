@@ -65,7 +65,8 @@ public:
     PackageInfo(const PackageInfo& other);
     ~PackageInfo();
 
-    /// Copies the content of `other` into this object; references taken from it before stay valid.
+    /// Copies the content of `other` into this object. References to its fields, maps and lists stay valid, those to
+    /// their elements do not.
     /// @return a further copy, by value: callers built against this signature rely on it.
     PackageInfo operator=(const PackageInfo& other);
 
@@ -182,15 +183,18 @@ public:
     /// elements and attributes are ignored.
     ///
     /// Refused are documents that are not well-formed, and documents of a size that only an attack has: over 64 MiB,
-    /// over 256 levels of elements (or of groups in a content model), over 256 namespace declarations, over 1,024
-    /// attributes in an element, over 1,024 entity declarations, entities that expand to over 8 MiB.
+    /// over 4 Mi nodes, over 256 levels of elements (or of groups in a content model), over 256 namespace declarations,
+    /// over 1,024 attributes in an element, over 1,024 declarations of entities and notations, entities that expand to
+    /// over 8 MiB; and documents within these limits that combine them so that the parser would compare names for
+    /// minutes.
     ///
     /// @return false when the document cannot be opened or is refused. An error with the reason is then written to the
     /// log category "zupackage", and the object is as it was.
     /// @{
     /// From UTF-8 text; a zero byte does not end it.
     bool loadFromManifestContent(const std::string& content);
-    /// From a file that is not open; it is closed again whatever the outcome. The document says its encoding itself.
+    /// From a file that is not open (one that is cannot be opened again, is refused, and stays open); it is closed
+    /// again whatever the outcome. The document says its encoding itself.
     bool loadFromManifestFile(QFile& file);
     /// From the file of that name, in UTF-8.
     bool loadFromManifestFile(const std::string& path);
@@ -225,8 +229,9 @@ private:
     const std::unique_ptr<PackageInfoPrivate> m_p;
 };
 
-/// Prints the package for people, an item a line, flushed line by line. Installer, services, executable files and
-/// description languages are not printed.
+/// Prints the package for people, an item a line, flushed line by line. Flags print as 1 or 0, unless
+/// the stream's own format says otherwise. Installer, services, executable files and description languages are not
+/// printed.
 ZUPACKAGE_EXPORT std::ostream& operator<<(std::ostream& out, const PackageInfo& package);
 
 } // namespace zu
