@@ -4,10 +4,12 @@
 #include <CLI/CLI.hpp>
 #include <QtCore/QHashFunctions>
 #include <QtCore/QTextCodec>
+#include <QtCore/QtGlobal>
 
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <iostream>
 
 namespace zu::cli {
 
@@ -19,6 +21,14 @@ void settleProcess()
     qSetGlobalQHashSeed(0);
     // File names are UTF-8 whatever the locale.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    // The library's own messages say what is wrong; Qt's would say it once more.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+}
+
+ExitCode outputFailed()
+{
+    std::fprintf(stderr, "zupackage: cannot write to standard output: %s\n", std::strerror(errno));
+    return k_outputFailed;
 }
 
 int run(int argc, char** argv)
@@ -35,7 +45,9 @@ int run(int argc, char** argv)
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? k_success : k_usage;
+        if (app.exit(error) != 0)
+            return k_usage;
+        return std::cout.flush() ? k_success : outputFailed();
     }
     return result;
 }
@@ -46,7 +58,7 @@ bool writeOutput(std::string_view text)
 {
     if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0)
         return true;
-    std::fprintf(stderr, "zupackage: cannot write to standard output: %s\n", std::strerror(errno));
+    outputFailed();
     return false;
 }
 

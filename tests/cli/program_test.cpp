@@ -26,6 +26,13 @@ TEST(Program, HelpGoesToStandardOutput)
     EXPECT_THAT(result.errors, IsEmpty());
 }
 
+TEST(Program, HelpThatCannotBeWrittenIsAnError)
+{
+    const test::ProgramResult result = test::runProgram(ZUPACKAGE_PROGRAM, {"--help"}, {{}, "/dev/full", {}});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.errors, "zupackage: cannot write to standard output: No space left on device\n");
+}
+
 TEST(Program, EveryCommandHasHelp)
 {
     const test::ProgramResult result = zupackage({"show", "--help"});

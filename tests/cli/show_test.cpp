@@ -78,6 +78,13 @@ TEST(Show, WhatCannotBeReadIsReportedAndTheOthersAreShown)
                                  folder.path().string() + "/manifest.xml for reading\n");
 }
 
+TEST(Show, AnEmptyNameIsAFileThatCannotBeOpened)
+{
+    const test::ProgramResult result = show({""});
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_EQ(result.errors, "[error] zupackage: Could not open  for reading\n");
+}
+
 TEST(Show, FileNamesAreUtf8WhateverTheLocale)
 {
     const test::TemporaryFolder folder;
