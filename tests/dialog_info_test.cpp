@@ -22,6 +22,9 @@ static_assert(std::is_same_v<decltype(&D::topics), const std::map<std::string, s
 static_assert(std::is_same_v<decltype(&D::topic), std::string (D::*)(Text) const>);
 static_assert(std::is_same_v<decltype(&D::setTopic), void (D::*)(Text, Text)>);
 static_assert(std::is_same_v<decltype(&D::removeTopic), bool (D::*)(Text)>);
+using Compare = bool (*)(const D&, const D&);
+static_assert(std::is_same_v<decltype(static_cast<Compare>(&operator==)), Compare>);
+static_assert(std::is_same_v<decltype(static_cast<Compare>(&operator!=)), Compare>);
 static_assert(std::is_same_v<decltype(&D::loadFromManifest), bool (D::*)(QDomElement&)>);
 
 namespace {

@@ -9,6 +9,11 @@ namespace zu {
 using L = LanguageInfo;
 using Text = const std::string&;
 static_assert(std::is_same_v<decltype(std::declval<L&>() = std::declval<const L&>()), L>, "assignment gives a copy");
+template <class T, class = void>
+constexpr bool isComparable = false;
+template <class T>
+constexpr bool isComparable<T, std::void_t<decltype(std::declval<T>() == std::declval<T>())>> = true;
+static_assert(!isComparable<L>);
 static_assert(std::is_same_v<decltype(&L::path), std::string (L::*)() const>);
 static_assert(std::is_same_v<decltype(&L::setPath), void (L::*)(Text)>);
 static_assert(std::is_same_v<decltype(&L::engineName), std::string (L::*)() const>);

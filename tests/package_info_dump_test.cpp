@@ -114,6 +114,14 @@ TEST(PackageDump, IsFlushedLineByLine)
     EXPECT_EQ(buffer.flushes, std::count(text.begin(), text.end(), '\n'));
 }
 
+TEST(PackageDump, FlagsFollowTheStreamsOwnFormat)
+{
+    std::ostringstream out;
+    out << std::boolalpha << PackageInfo() << BehaviorInfo();
+    EXPECT_NE(out.str().find("Install Only At Startup: false\n"), std::string::npos);
+    EXPECT_NE(out.str().find("UserRequestablefalse\n"), std::string::npos);
+}
+
 TEST(PackageDump, LeavesErrorsInTheStream)
 {
     std::ostringstream out;

@@ -8,14 +8,7 @@
 #include <QtCore/QTextCodec>
 #include <gmock/gmock.h>
 
-#include <type_traits>
-
 namespace zu {
-
-using P = PackageInfo;
-static_assert(std::is_same_v<decltype(&P::saveToManifestContent), std::string (P::*)()>, "not const");
-static_assert(std::is_same_v<decltype(std::declval<const P&>().saveToManifestFile(std::declval<QFile&>())), bool>);
-static_assert(std::is_same_v<decltype(std::declval<const P&>().saveToManifestFile(std::string())), bool>);
 
 namespace {
 
