@@ -37,7 +37,7 @@ function(zu_add_library target)
     set_target_properties(${target} PROPERTIES
         EXPORT_NAME ${arg_EXPORT_NAME}
         VERSION ${PROJECT_VERSION}
-        SOVERSION ${PROJECT_VERSION_MAJOR}
+        SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}
         INSTALL_RPATH "$ORIGIN")
     target_compile_features(${target} PUBLIC cxx_std_17)
     target_link_libraries(${target} PRIVATE ${target}_objects)
@@ -52,7 +52,7 @@ function(zu_add_library target)
     install(TARGETS ${target} EXPORT ${PROJECT_NAME}Targets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-    install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+    install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.hpp")
     install(FILES ${generated}/${arg_FOLDER}/export.hpp
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${arg_FOLDER})
 endfunction()
