@@ -1,3 +1,5 @@
+#include "support/log_capture.hpp"
+
 #include <zu/log.hpp>
 
 #include <gmock/gmock.h>
@@ -9,7 +11,6 @@
 #include <memory>
 #include <stdexcept>
 #include <thread>
-#include <tuple>
 #include <vector>
 
 namespace zu {
@@ -17,28 +18,6 @@ namespace zu {
 using log::Level;
 
 namespace {
-
-using Captured = std::tuple<Level, std::string, std::string, std::string, std::string, int>;
-
-/// Collects what is written while it lives.
-class Capture
-{
-public:
-    Capture()
-        : m_id(log::addHandler([this](const log::Record& r) {
-              records.emplace_back(r.level, r.category, r.message, r.origin.file, r.origin.function, r.origin.line);
-          }))
-    {
-    }
-    ~Capture() { log::removeHandler(m_id); }
-    Capture(const Capture&) = delete;
-    Capture& operator=(const Capture&) = delete;
-
-    std::vector<Captured> records;
-
-private:
-    log::HandlerId m_id;
-};
 
 const log::Origin k_here{"src/somewhere", "zu::somewhere", 7};
 

@@ -1,0 +1,115 @@
+#pragma once
+
+#include <zu/any_iterator.hpp>
+#include <zu/native/native.hpp>
+#include <zu/type/list.hpp>
+
+#include <list>
+#include <utility>
+#include <vector>
+
+namespace zu {
+
+/// The arguments of a call that takes any number of them.
+template <class T>
+class VarArguments
+{
+public:
+    VarArguments() = default;
+    explicit VarArguments(std::vector<T> arguments) : m_arguments(std::move(arguments)) {}
+
+    std::vector<T>& args() noexcept { return m_arguments; }
+    const std::vector<T>& args() const noexcept { return m_arguments; }
+
+private:
+    std::vector<T> m_arguments;
+};
+
+namespace detail {
+
+template <class Container>
+struct Elements
+{
+    static Container& of(Container& list) { return list; }
+    static const Container& of(const Container& list) { return list; }
+};
+template <class T>
+struct Elements<VarArguments<T>>
+{
+    static std::vector<T>& of(VarArguments<T>& list) { return list.args(); }
+    static const std::vector<T>& of(const VarArguments<T>& list) { return list.args(); }
+};
+
+template <class T, class Interface>
+class NativeSequence final : public Native<T, Interface>
+{
+    using Container = std::remove_reference_t<decltype(Elements<T>::of(std::declval<T&>()))>;
+    using Element = typename Container::value_type;
+
+public:
+    const TypeInterface* elementType() const override { return typeOf<Element>(); }
+    std::size_t size(const void* list) const override { return elements(list).size(); }
+    AnyIterator begin(void* list) const override { return beginOf(elements(list)); }
+    AnyIterator end(void* list) const override { return endOf(elements(list)); }
+
+    AnyReference element(void* list, std::size_t index) const override
+    {
+        return elementReference(*std::next(elements(list).begin(), static_cast<std::ptrdiff_t>(index)));
+    }
+
+    bool forEach(const void* list, ListTypeInterface::Visit visit, void* context) const override
+    {
+        const TypeInterface* type = elementType();
+        for (const auto& element : elements(list)) {
+            if (!visit(context, reference(type, element)))
+                return false;
+        }
+        return true;
+    }
+
+    void append(void* list, const void* element) const override
+    {
+        if constexpr (isCopyable<Element>)
+            elements(list).push_back(*static_cast<const Element*>(element));
+        else
+            throwNotCopyable(*elementType());
+    }
+    void appendMoved(void* list, void* element) const override
+    {
+        if constexpr (std::is_move_constructible_v<Element>)
+            elements(list).push_back(std::move(*static_cast<Element*>(element)));
+        else
+            append(list, element);
+    }
+
+private:
+    static auto& elements(void* list) { return Elements<T>::of(NativeSequence::object(list)); }
+    static const auto& elements(const void* list) { return Elements<T>::of(NativeSequence::object(list)); }
+
+    static AnyReference reference(const TypeInterface* type, const Element& element)
+    {
+        if constexpr (std::is_same_v<Container, std::vector<bool>>)
+            return bitReference(element);
+        else
+            return AnyReference(type, static_cast<const void*>(std::addressof(element)));
+    }
+};
+
+} // namespace detail
+
+template <class T, class Allocator>
+struct NativeType<std::vector<T, Allocator>>
+    : detail::MadeAs<detail::NativeSequence<std::vector<T, Allocator>, ListTypeInterface>>
+{
+};
+template <class T, class Allocator>
+struct NativeType<std::list<T, Allocator>>
+    : detail::MadeAs<detail::NativeSequence<std::list<T, Allocator>, ListTypeInterface>>
+{
+};
+template <class T>
+struct NativeType<VarArguments<T>> : detail::MadeAs<detail::NativeSequence<VarArguments<T>, VarArgsTypeInterface>>
+{
+};
+
+} // namespace zu

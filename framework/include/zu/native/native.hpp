@@ -1,0 +1,145 @@
+#pragma once
+
+#include <zu/type/type_interface.hpp>
+
+#include <cstdint>
+#include <list>
+#include <map>
+#include <new>
+#include <optional>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace zu {
+
+namespace detail {
+
+/// std::is_copy_constructible says yes for any container; this looks at what it contains.
+template <class T>
+struct IsCopyable : std::is_copy_constructible<T>
+{
+};
+template <class T, class A>
+struct IsCopyable<std::vector<T, A>> : IsCopyable<T>
+{
+};
+template <class T, class A>
+struct IsCopyable<std::list<T, A>> : IsCopyable<T>
+{
+};
+template <class K, class V, class C, class A>
+struct IsCopyable<std::map<K, V, C, A>> : std::conjunction<IsCopyable<K>, IsCopyable<V>>
+{
+};
+template <class A, class B>
+struct IsCopyable<std::pair<A, B>> : std::conjunction<IsCopyable<A>, IsCopyable<B>>
+{
+};
+template <class... T>
+struct IsCopyable<std::tuple<T...>> : std::conjunction<IsCopyable<T>...>
+{
+};
+template <class T>
+struct IsCopyable<std::optional<T>> : IsCopyable<T>
+{
+};
+
+template <class T>
+inline constexpr bool isCopyable = IsCopyable<T>::value;
+
+/// What AnyValue may hold in place: what fits and is copied as bytes.
+template <class T>
+inline constexpr std::size_t wordSizeOf = std::is_trivially_copyable_v<T>&& std::is_copy_constructible_v<T> &&
+                                                  sizeof(T) <= sizeof(std::uint64_t) &&
+                                                  alignof(T) <= alignof(std::uint64_t)
+                                              ? sizeof(T)
+                                              : 0;
+
+/// Given to NativeType<T> as a base: the interface is an object of class `Interface`.
+template <class Interface>
+struct MadeAs
+{
+    static const TypeInterface* make() { return new Interface; }
+};
+
+} // namespace detail
+
+/// Implements what every interface of a C++ type T needs; `Interface` is the interface of a kind, and what is left to
+/// write is what that one adds:
+///
+///     class CelsiusType : public Native<Celsius, DynamicTypeInterface> { AnyReference get(void*) const override; ...
+///     };
+template <class T, class Interface>
+class Native : public Interface
+{
+public:
+    void* initializeStorage() const override
+    {
+        if constexpr (std::is_default_constructible_v<T>) {
+            try {
+                return new T();
+            } catch (...) { // whatever it is, the answer is null
+                detail::reportStorageFailure(*this);
+                return nullptr;
+            }
+        } else {
+            detail::reportStorageFailure(*this);
+            return nullptr;
+        }
+    }
+
+    void* clone(const void* value) const override
+    {
+        if constexpr (detail::isCopyable<T>)
+            return new T(*static_cast<const T*>(value));
+        else
+            detail::throwNotCopyable(*this);
+    }
+
+    void* take(void* value) const override
+    {
+        if constexpr (std::is_move_constructible_v<T>)
+            return new T(std::move(*static_cast<T*>(value)));
+        else
+            return clone(value);
+    }
+
+    void destroy(void* value) const override
+    {
+        if constexpr (std::is_destructible_v<T> && !std::is_abstract_v<T>)
+            delete static_cast<T*>(value);
+    }
+
+    bool assign(void* target, const void* source) const override
+    {
+        if constexpr (detail::isCopyable<T> && std::is_nothrow_move_assignable_v<T>) {
+            *static_cast<T*>(target) = T(*static_cast<const T*>(source)); // a copy that throws leaves the target alone
+            return true;
+        } else if constexpr (detail::isCopyable<T> && std::is_copy_assignable_v<T>) {
+            *static_cast<T*>(target) = *static_cast<const T*>(source);
+            return true;
+        } else {
+            return false;
+        }
+    }
+
+    bool assignMoved(void* target, void* source) const override
+    {
+        if constexpr (std::is_move_assignable_v<T>) {
+            *static_cast<T*>(target) = std::move(*static_cast<T*>(source));
+            return true;
+        } else {
+            return assign(target, source);
+        }
+    }
+
+protected:
+    Native() : Interface(TypeInfo::of<T>(), detail::wordSizeOf<T>) {}
+
+    static T& object(void* value) { return *static_cast<T*>(value); }
+    static const T& object(const void* value) { return *static_cast<const T*>(value); }
+};
+
+} // namespace zu

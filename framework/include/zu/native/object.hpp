@@ -1,0 +1,100 @@
+#pragma once
+
+#include <zu/any_iterator.hpp>
+#include <zu/native/native.hpp>
+#include <zu/registry.hpp>
+#include <zu/type/dynamic.hpp>
+#include <zu/type/object.hpp>
+
+#include <memory>
+#include <utility>
+
+namespace zu {
+
+/// The object class of the generic handle Object<Empty>.
+struct Empty
+{
+};
+
+/// A handle that shares the ownership of an object of class T; kind Dynamic, its content is the object.
+template <class T>
+class Object
+{
+public:
+    Object() = default;
+    explicit Object(std::shared_ptr<T> object) : m_object(std::move(object)) {}
+
+    /// The object, an empty reference for a handle without one.
+    AnyReference reference() const { return m_object ? AnyReference::from(*m_object) : AnyReference(); }
+    const std::shared_ptr<T>& pointer() const noexcept { return m_object; }
+
+private:
+    std::shared_ptr<T> m_object;
+};
+
+/// The generic handle: its object may be of any class.
+template <>
+class Object<Empty>
+{
+public:
+    Object() = default;
+    template <class T>
+    explicit Object(std::shared_ptr<T> object)
+        : m_reference(object ? AnyReference::from(*object) : AnyReference()), m_owner(std::move(object))
+    {
+    }
+    template <class T>
+    explicit Object(const Object<T>& handle) : Object(handle.pointer())
+    {
+    }
+
+    /// The object, an empty reference for a handle without one.
+    AnyReference reference() const noexcept { return m_reference; }
+
+private:
+    AnyReference m_reference;
+    std::shared_ptr<const void> m_owner;
+};
+
+namespace detail {
+
+template <class T>
+class NativeHandle final : public Native<Object<T>, DynamicTypeInterface>
+{
+public:
+    AnyReference get(void* value) const override { return this->object(value).reference(); }
+    void set(void* value, const AnyReference& source) const override { setHandle(this->object(value), source); }
+
+private:
+    /// Only another handle says who owns the object.
+    static void setHandle(Object<T>& handle, const AnyReference& source)
+    {
+        const auto* other = source.getIf<Object<T>>();
+        if (!other)
+            throw std::runtime_error("an object handle can only be set to a handle of the same class");
+        handle = *other;
+    }
+};
+
+template <class T>
+class NativeObject final : public Native<T, ObjectTypeInterface>
+{
+};
+
+} // namespace detail
+
+template <class T>
+struct NativeType<Object<T>> : detail::MadeAs<detail::NativeHandle<T>>
+{
+};
+
+/// Registers T as an object class: used in place, not taken apart. To be called before the first use of T.
+/// @return false, and nothing is changed, when T is registered already.
+template <class T>
+bool registerObject()
+{
+    static const auto& type = *new detail::NativeObject<T>;
+    return registerType(TypeInfo::of<T>(), &type);
+}
+
+} // namespace zu

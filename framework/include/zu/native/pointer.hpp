@@ -1,0 +1,54 @@
+#pragma once
+
+#include <zu/any_iterator.hpp>
+#include <zu/native/native.hpp>
+#include <zu/type/pointer.hpp>
+
+#include <memory>
+
+namespace boost {
+template <class T>
+class shared_ptr;
+}
+
+namespace zu {
+
+namespace detail {
+
+template <class Pointer, class Pointee, PointerKind kind>
+class NativePointer final : public Native<Pointer, PointerTypeInterface>
+{
+public:
+    PointerKind pointerKind() const noexcept override { return kind; }
+    const TypeInterface* pointedType() const override { return typeOf<Pointee>(); }
+    AnyReference dereference(const void* pointer) const override
+    {
+        const Pointer& typed = this->object(pointer);
+        if (!typed)
+            return AnyReference();
+        if constexpr (std::is_void_v<Pointee>)
+            return AnyReference(typeOf<void>(), nullptr); // nothing is known of what is there
+        else
+            return AnyReference::from(*typed);
+    }
+};
+
+} // namespace detail
+
+template <class T>
+struct NativeType<T*, std::enable_if_t<!std::is_function_v<T>>>
+    : detail::MadeAs<detail::NativePointer<T*, T, PointerKind::Raw>>
+{
+};
+template <class T>
+struct NativeType<std::shared_ptr<T>>
+    : detail::MadeAs<detail::NativePointer<std::shared_ptr<T>, T, PointerKind::Shared>>
+{
+};
+template <class T>
+struct NativeType<boost::shared_ptr<T>>
+    : detail::MadeAs<detail::NativePointer<boost::shared_ptr<T>, T, PointerKind::Shared>>
+{
+};
+
+} // namespace zu

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <zu/type/type_interface.hpp>
+
+namespace zu {
+
+/// Sequences of elements of one type.
+class ZU_EXPORT ListTypeInterface : public TypeInterface
+{
+public:
+    /// Given each element in turn; false ends the walk.
+    using Visit = bool (*)(void* context, const AnyReference& element);
+
+    ~ListTypeInterface() override;
+
+    virtual const TypeInterface* elementType() const = 0;
+    virtual std::size_t size(const void* list) const = 0;
+
+    /// Iterators hold what the container's own ones hold, and are invalidated with those.
+    virtual AnyIterator begin(void* list) const = 0;
+    virtual AnyIterator end(void* list) const = 0;
+
+    /// The element at `index`, which is less than size(). Takes time in proportion to it where the container does.
+    virtual AnyReference element(void* list, std::size_t index) const = 0;
+
+    /// Walks the elements without making iterators; they are for reading only.
+    /// @return false when `visit` ended the walk.
+    virtual bool forEach(const void* list, Visit visit, void* context) const = 0;
+
+    /// Appends a copy of `element`, a value of elementType().
+    virtual void append(void* list, const void* element) const = 0;
+
+    /// Like append(), and may leave `element` moved from.
+    virtual void appendMoved(void* list, void* element) const;
+
+protected:
+    explicit ListTypeInterface(const TypeInfo& info, std::size_t wordSize = 0, TypeKind kind = TypeKind::List)
+        : TypeInterface(info, kind, wordSize)
+    {
+    }
+};
+
+/// The arguments of a call that takes any number of them: a list of another kind.
+class ZU_EXPORT VarArgsTypeInterface : public ListTypeInterface
+{
+public:
+    ~VarArgsTypeInterface() override;
+
+protected:
+    explicit VarArgsTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
+        : ListTypeInterface(info, wordSize, TypeKind::VarArgs)
+    {
+    }
+};
+
+} // namespace zu

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <zu/export.hpp>
+
+#include <boost/type_index/stl_type_index.hpp>
+
+#include <cstddef>
+#include <functional>
+#include <string>
+
+namespace zu {
+
+/// The identity of a C++ type, cv-qualifiers and references stripped. Two of one type are equal whichever library they
+/// were made in, so they are what types are compared by; interfaces of one type may differ from library to library.
+/// Immutable, cheap to copy, usable from any thread.
+class ZU_EXPORT TypeInfo
+{
+public:
+    /// Implicit: whoever has a type index has the identity.
+    TypeInfo(const boost::typeindex::stl_type_index& index) noexcept // NOLINT(google-explicit-constructor)
+        : m_index(index)
+    {
+    }
+
+    /// The identity of T; a class must be complete.
+    template <class T>
+    static TypeInfo of() noexcept
+    {
+        return boost::typeindex::stl_type_index::type_id<T>();
+    }
+
+    const boost::typeindex::stl_type_index& index() const noexcept { return m_index; }
+
+    /// The demangled name, with "std::string" for the long name that the compilers give it.
+    std::string name() const;
+
+    /// Whether the type, or one that it is made of, stands in an anonymous namespace. Such types of two libraries are
+    /// unrelated and may yet compare equal, so the type system refuses them.
+    bool isAnonymous() const noexcept;
+
+    std::size_t hash() const noexcept { return m_index.hash_code(); }
+
+    friend bool operator==(const TypeInfo& a, const TypeInfo& b) noexcept { return a.m_index == b.m_index; }
+    friend bool operator!=(const TypeInfo& a, const TypeInfo& b) noexcept { return !(a == b); }
+    /// Some strict order, the same for the life of the process.
+    friend bool operator<(const TypeInfo& a, const TypeInfo& b) noexcept { return a.m_index < b.m_index; }
+
+private:
+    boost::typeindex::stl_type_index m_index;
+};
+
+} // namespace zu
+
+template <>
+struct std::hash<zu::TypeInfo>
+{
+    std::size_t operator()(const zu::TypeInfo& info) const noexcept { return info.hash(); }
+};

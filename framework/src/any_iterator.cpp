@@ -1,0 +1,83 @@
+#include <zu/any_iterator.hpp>
+#include <zu/type/iterator.hpp>
+
+#include <stdexcept>
+#include <utility>
+
+namespace zu {
+
+AnyIterator::AnyIterator(AnyValue position, bool readOnly) : m_position(std::move(position)), m_readOnly(readOnly)
+{
+    if (m_position.kind() != TypeKind::Iterator)
+        throw std::runtime_error("an iterator is made of a position only");
+}
+
+const IteratorTypeInterface& AnyIterator::interface() const
+{
+    return static_cast<const IteratorTypeInterface&>(*m_position.type());
+}
+
+void* AnyIterator::state() const
+{
+    if (m_position.isEmpty())
+        detail::throwAtEnd();
+    return const_cast<void*>(m_position.address());
+}
+
+AnyReference AnyIterator::operator*() const
+{
+    void* const position = state();
+    const AnyReference element = interface().dereference(position);
+    return m_readOnly ? element.readOnly() : element;
+}
+
+AnyIterator& AnyIterator::operator++()
+{
+    void* const position = state();
+    interface().next(position);
+    return *this;
+}
+
+AnyIterator AnyIterator::operator++(int)
+{
+    AnyIterator before = *this;
+    ++*this;
+    return before;
+}
+
+AnyIterator AnyIterator::readOnly() const& { return AnyIterator(*this).readOnly(); }
+
+AnyIterator AnyIterator::readOnly() &&
+{
+    m_readOnly = true;
+    return std::move(*this);
+}
+
+bool AnyIterator::equals(const AnyIterator& other) const
+{
+    if (m_position.isEmpty() || other.m_position.isEmpty())
+        return m_position.isEmpty() == other.m_position.isEmpty();
+    return m_position.type()->info() == other.m_position.type()->info() &&
+           interface().equals(m_position.address(), other.m_position.address());
+}
+
+namespace detail {
+
+void throwAtEnd() { throw std::out_of_range("the iterator is at its end"); }
+
+AnyReference bitReference(bool bit)
+{
+    static constexpr bool k_bits[] = {false, true};
+    return AnyReference::from(k_bits[bit ? 1 : 0]);
+}
+
+AnyReference elementReference(const std::vector<bool>::reference& element) { return bitReference(element); }
+
+AnyReference NativeAnyIterator::dereference(void* iterator) const { return *object(iterator); }
+
+void NativeAnyIterator::next(void* iterator) const { ++object(iterator); }
+
+bool NativeAnyIterator::equals(const void* a, const void* b) const { return object(a) == object(b); }
+
+} // namespace detail
+} // namespace zu

@@ -1,0 +1,161 @@
+#include <zu/any_reference.hpp>
+#include <zu/type/dynamic.hpp>
+#include <zu/type/list.hpp>
+#include <zu/type/map.hpp>
+#include <zu/type/optional.hpp>
+#include <zu/type/pointer.hpp>
+#include <zu/type/raw.hpp>
+#include <zu/type/string.hpp>
+#include <zu/type/struct.hpp>
+
+#include <stdexcept>
+
+namespace zu {
+
+namespace {
+
+std::string nameOf(const AnyReferenceBase& reference)
+{
+    return reference.isEmpty() ? std::string("an empty reference") : reference.type()->name();
+}
+
+[[noreturn]] void throwUnfit(const char* operation, const AnyReferenceBase& reference, const char* needed)
+{
+    throw std::runtime_error(std::string(operation) + " of " + nameOf(reference) + ": " + needed + " is needed");
+}
+
+/// The operations of interfaces take values to write to; what comes of them is marked as the reference is.
+void* addressOf(const AnyReferenceBase& reference) { return const_cast<void*>(reference.address()); }
+
+AnyReference markedAs(const AnyReferenceBase& whole, const AnyReference& part)
+{
+    return whole.isReadOnly() ? part.readOnly() : part;
+}
+
+AnyIterator markedAs(const AnyReferenceBase& whole, AnyIterator iterator)
+{
+    return whole.isReadOnly() ? std::move(iterator).readOnly() : iterator;
+}
+
+bool isListLike(TypeKind kind) { return kind == TypeKind::List || kind == TypeKind::VarArgs; }
+
+/// The interface of a reference whose kind has been looked at.
+template <class Interface>
+const Interface& as(const AnyReferenceBase& reference)
+{
+    return static_cast<const Interface&>(*reference.type());
+}
+
+const char* const k_iterable = "a list, a map or variable arguments";
+
+} // namespace
+
+std::int64_t AnyReferenceBase::toInt() const { return to<std::int64_t>(); }
+
+double AnyReferenceBase::toDouble() const { return to<double>(); }
+
+std::string AnyReferenceBase::toString() const { return to<std::string>(); }
+
+std::string_view AnyReferenceBase::text() const
+{
+    if (kind() != TypeKind::String)
+        throwUnfit("text()", *this, "a string");
+    return as<StringTypeInterface>(*this).get(m_address);
+}
+
+std::string_view AnyReferenceBase::rawBuffer() const
+{
+    if (kind() != TypeKind::Raw)
+        throwUnfit("rawBuffer()", *this, "a raw buffer");
+    return as<RawTypeInterface>(*this).get(m_address);
+}
+
+std::size_t AnyReferenceBase::size() const
+{
+    if (isListLike(kind()))
+        return as<ListTypeInterface>(*this).size(m_address);
+    if (kind() == TypeKind::Map)
+        return as<MapTypeInterface>(*this).size(m_address);
+    if (kind() == TypeKind::Tuple)
+        return as<StructTypeInterface>(*this).memberTypes().size();
+    throwUnfit("size()", *this, "a list, a map, variable arguments or a tuple");
+}
+
+AnyIterator AnyReferenceBase::begin() const
+{
+    if (isListLike(kind()))
+        return markedAs(*this, as<ListTypeInterface>(*this).begin(addressOf(*this)));
+    if (kind() == TypeKind::Map)
+        return markedAs(*this, as<MapTypeInterface>(*this).begin(addressOf(*this)));
+    throwUnfit("begin()", *this, k_iterable);
+}
+
+AnyIterator AnyReferenceBase::end() const
+{
+    if (isListLike(kind()))
+        return markedAs(*this, as<ListTypeInterface>(*this).end(addressOf(*this)));
+    if (kind() == TypeKind::Map)
+        return markedAs(*this, as<MapTypeInterface>(*this).end(addressOf(*this)));
+    throwUnfit("end()", *this, k_iterable);
+}
+
+AnyReference AnyReferenceBase::_element(std::size_t index) const
+{
+    if (!isListLike(kind()) && kind() != TypeKind::Tuple)
+        throwUnfit("_element()", *this, "a tuple, a list or variable arguments");
+    if (index >= size()) {
+        throw std::out_of_range("_element(" + std::to_string(index) + ") of " + nameOf(*this) + ": there are only " +
+                                std::to_string(size()));
+    }
+    if (kind() == TypeKind::Tuple)
+        return markedAs(*this, as<StructTypeInterface>(*this).element(addressOf(*this), index));
+    return markedAs(*this, as<ListTypeInterface>(*this).element(addressOf(*this), index));
+}
+
+AnyReference AnyReferenceBase::content() const
+{
+    if (kind() == TypeKind::Dynamic)
+        return markedAs(*this, as<DynamicTypeInterface>(*this).get(addressOf(*this)));
+    if (kind() == TypeKind::Optional)
+        return markedAs(*this, as<OptionalTypeInterface>(*this).value(addressOf(*this)));
+    if (kind() == TypeKind::Pointer) // a pointer says itself whether what it points to is const
+        return as<PointerTypeInterface>(*this).dereference(m_address);
+    throwUnfit("content()", *this, "a dynamic, a pointer or an optional");
+}
+
+AnyReference::AnyReference(const TypeInterface* type, void* address) : AnyReferenceBase(type, address, false)
+{
+    if (!type)
+        throw std::invalid_argument("a reference needs a type");
+    if (!address && type->kind() != TypeKind::Void)
+        throw std::invalid_argument("a reference to " + type->name() + " needs an address");
+}
+
+AnyReference::AnyReference(const TypeInterface* type, const void* address)
+    : AnyReference(type, const_cast<void*>(address))
+{
+    m_tagged |= k_readOnly;
+}
+
+AnyReference AnyReference::readOnly() const noexcept
+{
+    AnyReference reference = *this;
+    if (!isEmpty())
+        reference.m_tagged |= k_readOnly;
+    return reference;
+}
+
+void* AnyReference::writableAddress() const
+{
+    if (isEmpty())
+        throw std::runtime_error("an empty reference cannot be written through");
+    if (isReadOnly())
+        throw std::runtime_error("a reference to " + type()->name() + " is for reading only");
+    return m_address;
+}
+
+void AnyReference::set(const AnyReferenceBase& source) const { detail::convertOrThrow(source, *this); }
+
+void AnyReference::set(const char* source) const { set(detail::textOf(source)); }
+
+} // namespace zu

@@ -1,0 +1,26 @@
+#include <zu/native/dynamic.hpp>
+#include <zu/native/tuple.hpp>
+
+namespace zu::detail {
+
+const std::string& noName()
+{
+    static const auto& name = *new std::string;
+    return name;
+}
+
+const std::vector<std::string>& noNames()
+{
+    static const auto& names = *new std::vector<std::string>;
+    return names;
+}
+
+AnyReference NativeAnyValue::get(void* value) const { return object(value).reference(); }
+
+void NativeAnyValue::set(void* value, const AnyReference& source) const { object(value) = AnyValue(source); }
+
+AnyReference NativeAnyReference::get(void* value) const { return object(value); }
+
+void NativeAnyReference::set(void* value, const AnyReference& source) const { object(value) = source; }
+
+} // namespace zu::detail

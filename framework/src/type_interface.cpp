@@ -1,0 +1,123 @@
+#include <zu/log.hpp>
+#include <zu/native/opaque.hpp>
+#include <zu/type/dynamic.hpp>
+#include <zu/type/float.hpp>
+#include <zu/type/function.hpp>
+#include <zu/type/int.hpp>
+#include <zu/type/iterator.hpp>
+#include <zu/type/list.hpp>
+#include <zu/type/map.hpp>
+#include <zu/type/object.hpp>
+#include <zu/type/optional.hpp>
+#include <zu/type/pointer.hpp>
+#include <zu/type/raw.hpp>
+#include <zu/type/string.hpp>
+#include <zu/type/struct.hpp>
+
+#include <stdexcept>
+
+namespace zu {
+
+// Out of line, so that the interfaces' type information stands in this library alone.
+TypeInterface::~TypeInterface() = default;
+UnknownTypeInterface::~UnknownTypeInterface() = default;
+IntTypeInterface::~IntTypeInterface() = default;
+FloatTypeInterface::~FloatTypeInterface() = default;
+StringTypeInterface::~StringTypeInterface() = default;
+RawTypeInterface::~RawTypeInterface() = default;
+ListTypeInterface::~ListTypeInterface() = default;
+VarArgsTypeInterface::~VarArgsTypeInterface() = default;
+MapTypeInterface::~MapTypeInterface() = default;
+IteratorTypeInterface::~IteratorTypeInterface() = default;
+StructTypeInterface::~StructTypeInterface() = default;
+DynamicTypeInterface::~DynamicTypeInterface() = default;
+PointerTypeInterface::~PointerTypeInterface() = default;
+OptionalTypeInterface::~OptionalTypeInterface() = default;
+FunctionTypeInterface::~FunctionTypeInterface() = default;
+SignalTypeInterface::~SignalTypeInterface() = default;
+PropertyTypeInterface::~PropertyTypeInterface() = default;
+ObjectTypeInterface::~ObjectTypeInterface() = default;
+
+std::string_view kindName(TypeKind kind) noexcept
+{
+    switch (kind) {
+    case TypeKind::Unknown:
+        return "Unknown";
+    case TypeKind::Void:
+        return "Void";
+    case TypeKind::Int:
+        return "Int";
+    case TypeKind::Float:
+        return "Float";
+    case TypeKind::String:
+        return "String";
+    case TypeKind::List:
+        return "List";
+    case TypeKind::Map:
+        return "Map";
+    case TypeKind::Object:
+        return "Object";
+    case TypeKind::Pointer:
+        return "Pointer";
+    case TypeKind::Tuple:
+        return "Tuple";
+    case TypeKind::Dynamic:
+        return "Dynamic";
+    case TypeKind::Raw:
+        return "Raw";
+    case TypeKind::Iterator:
+        return "Iterator";
+    case TypeKind::Function:
+        return "Function";
+    case TypeKind::Signal:
+        return "Signal";
+    case TypeKind::Property:
+        return "Property";
+    case TypeKind::VarArgs:
+        return "VarArgs";
+    case TypeKind::Optional:
+        return "Optional";
+    }
+    return {};
+}
+
+std::string TypeInterface::name() const { return info().name(); }
+
+void* TypeInterface::take(void* value) const { return clone(value); }
+
+bool TypeInterface::assign(void*, const void*) const { return false; }
+
+bool TypeInterface::assignMoved(void* target, void* source) const { return assign(target, source); }
+
+void ListTypeInterface::appendMoved(void* list, void* element) const { append(list, element); }
+
+namespace detail {
+
+namespace {
+
+class VoidType final : public TypeInterface
+{
+public:
+    VoidType() : TypeInterface(TypeInfo::of<void>(), TypeKind::Void) {}
+
+    void* initializeStorage() const override { return nullptr; }
+    void* clone(const void*) const override { return nullptr; }
+    void destroy(void*) const override {}
+    bool assign(void*, const void*) const override { return true; }
+};
+
+} // namespace
+
+const TypeInterface* makeVoidType() { return new VoidType; }
+
+void reportStorageFailure(const TypeInterface& type)
+{
+    static log::Category& category = log::addCategory("zutype.bypointer");
+    log::write(category, log::Level::Error, {"src/type_interface", "zu::TypeInterface::initializeStorage", __LINE__},
+               [&type] { return "initializeStorage error on " + type.name(); });
+}
+
+void throwNotCopyable(const TypeInterface& type) { throw std::logic_error(type.name() + " cannot be copied"); }
+
+} // namespace detail
+} // namespace zu

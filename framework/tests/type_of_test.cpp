@@ -1,0 +1,151 @@
+#include "support/samples.hpp"
+
+#include <zu/registry.hpp>
+#include <zu/type_of.hpp>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <atomic>
+#include <stdexcept>
+#include <thread>
+#include <utility>
+
+namespace zu {
+
+namespace {
+
+struct Hidden
+{
+};
+
+constexpr std::size_t k_threads = 8;
+constexpr int k_rounds = 1'000;
+
+/// Runs `work(thread number)` on every thread, all let go at once; round by round, the threads being kept.
+template <class Work>
+void onThreads(int rounds, Work work)
+{
+    std::atomic<std::size_t> arrived{0};
+    std::vector<std::thread> threads;
+    for (std::size_t number = 0; number != k_threads; ++number) {
+        threads.emplace_back([&arrived, &work, rounds, number] {
+            for (int round = 0; round != rounds; ++round) {
+                ++arrived;
+                while (arrived < k_threads * (static_cast<std::size_t>(round) + 1))
+                    std::this_thread::yield();
+                work(round, number);
+            }
+        });
+    }
+    for (auto& thread : threads)
+        thread.join();
+}
+
+std::atomic<int> g_made{0};
+
+const TypeInterface* makeCounted()
+{
+    ++g_made;
+    std::this_thread::yield();
+    return typeOf<int>();
+}
+
+const TypeInterface* makeFailing()
+{
+    if (++g_made % 2 == 1)
+        throw std::runtime_error("not this time");
+    return typeOf<int>();
+}
+
+} // namespace
+
+namespace typeoftest {
+
+template <std::size_t N>
+struct Numbered
+{
+    int value = 0;
+};
+
+template <std::size_t... N>
+std::array<const TypeInterface* (*)(), sizeof...(N)> lookUps(std::index_sequence<N...>)
+{
+    return {&typeOf<std::vector<Numbered<N>>>...};
+}
+
+} // namespace typeoftest
+
+TEST(TypeOf, StripsQualifiersAndReferences)
+{
+    EXPECT_EQ(typeOf<const std::string&>(), typeOf<std::string>());
+    EXPECT_EQ(typeOf<volatile int>(), typeOf<int>());
+}
+
+TEST(TypeOf, GivesTheSameInterfaceAgain) { EXPECT_EQ(typeOf<std::vector<int>>(), typeOf<std::vector<int>>()); }
+
+TEST(TypeOf, FirstUseMakesAStructKnownUnderItsName)
+{
+    EXPECT_EQ(typeOf<sample::Line>()->name(), "::sample::Line");
+    EXPECT_EQ(findType("::sample::Line"), typeOf<sample::Line>());
+}
+
+TEST(TypeOf, RefusesTypesOfAnonymousNamespaces)
+{
+    try {
+        typeOf<std::vector<Hidden>>();
+        FAIL();
+    } catch (const std::invalid_argument& error) {
+        EXPECT_THAT(error.what(), testing::HasSubstr("(anonymous namespace)::Hidden"));
+        EXPECT_THAT(error.what(), testing::EndsWith("give the namespace a name"));
+    }
+    EXPECT_THROW(typeOf<Hidden>(), std::invalid_argument);
+}
+
+TEST(TypeSlot, EightThreadsMakeOneInterfaceInEachOfAThousandRounds)
+{
+    std::vector<detail::TypeSlot> slots(k_rounds);
+    std::vector<std::array<const TypeInterface*, k_threads>> seen(k_rounds);
+    g_made = 0;
+    onThreads(k_rounds, [&](int round, std::size_t thread) {
+        const auto index = static_cast<std::size_t>(round);
+        seen[index][thread] = slots[index].get(TypeInfo::of<typeoftest::Numbered<99>>(), &makeCounted);
+    });
+    EXPECT_EQ(g_made, k_rounds);
+    for (const auto& round : seen)
+        EXPECT_THAT(round, testing::Each(typeOf<int>()));
+}
+
+TEST(TypeSlot, AFailedAttemptIsItsCallersAndTheNextOneTriesAnew)
+{
+    std::vector<detail::TypeSlot> slots(k_rounds);
+    std::atomic<int> failed{0};
+    g_made = 0;
+    onThreads(k_rounds, [&](int round, std::size_t) {
+        auto& slot = slots[static_cast<std::size_t>(round)];
+        try {
+            EXPECT_EQ(slot.get(TypeInfo::of<typeoftest::Numbered<99>>(), &makeFailing), typeOf<int>());
+        } catch (const std::runtime_error&) {
+            ++failed;
+        }
+    });
+    EXPECT_EQ(failed, k_rounds);
+    EXPECT_EQ(g_made, 2 * k_rounds);
+}
+
+TEST(TypeOf, EightThreadsShareTheInterfaceOfEveryLazilyMadeType)
+{
+    const auto lookUps = typeoftest::lookUps(std::make_index_sequence<40>());
+    std::array<std::array<const TypeInterface*, k_threads>, 40> seen{};
+    onThreads(static_cast<int>(lookUps.size()), [&](int round, std::size_t thread) {
+        const auto index = static_cast<std::size_t>(round);
+        seen[index][thread] = lookUps[index]();
+    });
+    for (const auto& round : seen) {
+        EXPECT_NE(round.front(), nullptr);
+        EXPECT_THAT(round, testing::Each(round.front()));
+    }
+}
+
+} // namespace zu
