@@ -1,0 +1,71 @@
+#pragma once
+
+#include <zu/any_value.hpp>
+#include <zu/type/pointer.hpp>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zu {
+
+/// What dispatch() calls: one handler a kind, given what there is to see of a value of it. All are to be implemented,
+/// so that a kind cannot be forgotten. References and views hold as long as the value is there and not changed.
+class ZU_EXPORT TypeVisitor
+{
+public:
+    virtual ~TypeVisitor();
+
+    /// Nothing is known of the value but its type.
+    virtual void visitUnknown(const AnyReference& value) = 0;
+    virtual void visitVoid() = 0;
+
+    /// @param number    the value; of an unsigned type of 8 bytes its bits, to be cast to std::uint64_t
+    /// @param byteSize  0 for bool
+    virtual void visitInt(std::int64_t number, bool isSigned, unsigned byteSize) = 0;
+    virtual void visitFloat(double number, unsigned byteSize) = 0;
+
+    /// The text with its length: zero bytes do not end it.
+    virtual void visitString(std::string_view text) = 0;
+    virtual void visitList(const AnyReference& list) = 0;
+
+    /// Its elements are entries: `_element(0)` the key, `_element(1)` the value.
+    virtual void visitMap(const AnyReference& map) = 0;
+    virtual void visitObject(const AnyReference& object) = 0;
+
+    /// @param pointee  what it points to; empty for a null pointer
+    virtual void visitPointer(PointerKind kind, const AnyReference& pointee) = 0;
+
+    /// @param className  empty for pairs and tuples
+    /// @param names      the members' names in the order of `values`; empty for pairs and tuples. An interface that is
+    ///                   wrong in itself may give another number of them.
+    virtual void visitTuple(const std::string& className, const std::vector<AnyReference>& values,
+                            const std::vector<std::string>& names) = 0;
+
+    /// The dynamic itself; `content()` gives what it holds, an empty reference for nothing.
+    virtual void visitDynamic(const AnyReference& dynamic) = 0;
+
+    /// Address and number of the bytes; the address may be null when there are none.
+    virtual void visitRaw(std::string_view bytes) = 0;
+    virtual void visitIterator(const AnyReference& iterator) = 0;
+    virtual void visitVarArgs(const AnyReference& arguments) = 0;
+
+    /// The optional itself; `content()` gives its value, an empty reference when it is absent.
+    virtual void visitOptional(const AnyReference& optional) = 0;
+
+protected:
+    TypeVisitor() = default;
+    TypeVisitor(const TypeVisitor&) = default;
+    TypeVisitor& operator=(const TypeVisitor&) = default;
+};
+
+/// Calls the handler for the kind of `value`; what it throws comes out.
+///
+/// Without a call: an empty reference is reported with the warning "NULL type" to the category "zutype.typedispatcher",
+/// a function, a signal or a property with "Signal and Property not handled"; a number that is no kind is passed over
+/// in silence. Handlers that dispatch the parts of a value should count their depth and stop at k_maxNesting, for a
+/// value may be nested as deep as memory goes, or contain itself.
+ZU_EXPORT void dispatch(const AnyReferenceBase& value, TypeVisitor& visitor);
+
+} // namespace zu
