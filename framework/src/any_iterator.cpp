@@ -57,7 +57,9 @@ bool AnyIterator::equals(const AnyIterator& other) const
 {
     if (m_position.isEmpty() || other.m_position.isEmpty())
         return m_position.isEmpty() == other.m_position.isEmpty();
-    return m_position.type()->info() == other.m_position.type()->info() &&
+    const TypeInterface* type = m_position.type();
+    const TypeInterface* otherType = other.m_position.type();
+    return (type == otherType || type->info() == otherType->info()) &&
            interface().equals(m_position.address(), other.m_position.address());
 }
 

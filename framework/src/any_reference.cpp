@@ -1,5 +1,6 @@
 #include <zu/any_reference.hpp>
 #include <zu/type/dynamic.hpp>
+#include <zu/type/int.hpp>
 #include <zu/type/list.hpp>
 #include <zu/type/map.hpp>
 #include <zu/type/optional.hpp>
@@ -50,7 +51,15 @@ const char* const k_iterable = "a list, a map or variable arguments";
 
 } // namespace
 
-std::int64_t AnyReferenceBase::toInt() const { return to<std::int64_t>(); }
+std::int64_t AnyReferenceBase::toInt() const
+{
+    if (kind() == TypeKind::Int) {
+        const auto& type = as<IntTypeInterface>(*this);
+        if (type.isSigned() || type.byteSize() < sizeof(std::int64_t))
+            return type.get(m_address); // always in range, and what loops over elements ask for
+    }
+    return to<std::int64_t>();
+}
 
 double AnyReferenceBase::toDouble() const { return to<double>(); }
 
@@ -123,26 +132,11 @@ AnyReference AnyReferenceBase::content() const
     throwUnfit("content()", *this, "a dynamic, a pointer or an optional");
 }
 
-AnyReference::AnyReference(const TypeInterface* type, void* address) : AnyReferenceBase(type, address, false)
+void AnyReference::refuse(const TypeInterface* type)
 {
     if (!type)
         throw std::invalid_argument("a reference needs a type");
-    if (!address && type->kind() != TypeKind::Void)
-        throw std::invalid_argument("a reference to " + type->name() + " needs an address");
-}
-
-AnyReference::AnyReference(const TypeInterface* type, const void* address)
-    : AnyReference(type, const_cast<void*>(address))
-{
-    m_tagged |= k_readOnly;
-}
-
-AnyReference AnyReference::readOnly() const noexcept
-{
-    AnyReference reference = *this;
-    if (!isEmpty())
-        reference.m_tagged |= k_readOnly;
-    return reference;
+    throw std::invalid_argument("a reference to " + type->name() + " needs an address");
 }
 
 void* AnyReference::writableAddress() const

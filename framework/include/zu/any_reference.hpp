@@ -111,10 +111,17 @@ public:
     AnyReference() noexcept = default;
 
     /// Throws std::invalid_argument for a null address, unless `type` is of kind Void, and for a null type.
-    AnyReference(const TypeInterface* type, void* address);
+    AnyReference(const TypeInterface* type, void* address) : AnyReferenceBase(type, address, false)
+    {
+        if (!type || (!address && type->kind() != TypeKind::Void))
+            refuse(type);
+    }
 
     /// The same, for reading only.
-    AnyReference(const TypeInterface* type, const void* address);
+    AnyReference(const TypeInterface* type, const void* address) : AnyReference(type, const_cast<void*>(address))
+    {
+        m_tagged |= k_readOnly;
+    }
 
     /// A value of kind Void. Throws std::invalid_argument for any other kind.
     AnyReference(const TypeInterface* type, std::nullptr_t) : AnyReference(type, static_cast<void*>(nullptr)) {}
@@ -135,7 +142,13 @@ public:
     static AnyReference from(const T&& temporary) = delete;
 
     /// The same reference, for reading only.
-    AnyReference readOnly() const noexcept;
+    AnyReference readOnly() const noexcept
+    {
+        AnyReference reference = *this;
+        if (!isEmpty())
+            reference.m_tagged |= k_readOnly;
+        return reference;
+    }
 
     /// The address to write to. Throws std::runtime_error when the reference is empty or for reading only.
     void* writableAddress() const;
@@ -159,6 +172,9 @@ public:
 
     /// A C string is a text.
     void set(const char* source) const;
+
+private:
+    [[noreturn]] static void refuse(const TypeInterface* type);
 };
 
 static_assert(sizeof(AnyReference) == 2 * sizeof(void*));

@@ -1,0 +1,6 @@
+# Fails unless PROGRAM succeeds and writes to standard output exactly what the file EXPECTED holds.
+execute_process(COMMAND ${PROGRAM} OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
+file(READ ${EXPECTED} expected)
+if(NOT output STREQUAL expected)
+    message(FATAL_ERROR "the output is\n${output}\nand not\n${expected}")
+endif()
