@@ -1,0 +1,40 @@
+#include "ratio_reporter.hpp"
+
+#include <iomanip>
+
+namespace bench {
+
+void RatioReporter::ReportRuns(const std::vector<Run>& runs)
+{
+    for (const Run& run : runs) {
+        if (run.run_type == Run::RT_Iteration || run.aggregate_name == "median")
+            m_times[run.run_name.str()] = run.GetAdjustedCPUTime();
+    }
+    ConsoleReporter::ReportRuns(runs);
+}
+
+void RatioReporter::Finalize()
+{
+    auto& out = GetOutputStream();
+    out << '\n'
+        << std::left << std::setw(34) << "ratio" << std::setw(34) << "to"
+        << "is      target\n";
+    for (const Target& target : m_targets) {
+        const auto time = m_times.find(target.what);
+        const auto floor = m_times.find(target.floor);
+        if (time == m_times.end() || floor == m_times.end())
+            continue;
+        const double ratio = time->second / floor->second;
+        out << std::setw(34) << target.what << std::setw(34) << target.floor << std::setw(8) << std::setprecision(3)
+            << ratio;
+        if (target.atMost > 0) {
+            const bool reached = ratio <= target.atMost;
+            m_missed += reached ? 0 : 1;
+            out << target.atMost << (reached ? "" : "  MISSED");
+        }
+        out << '\n';
+    }
+    ConsoleReporter::Finalize();
+}
+
+} // namespace bench
