@@ -45,15 +45,9 @@ void dispatchTuple(const AnyReference& value, TypeVisitor& visitor)
     visitor.visitTuple(type.className(), values, type.elementsName());
 }
 
-} // namespace
-
-void dispatch(const AnyReferenceBase& reference, TypeVisitor& visitor)
+/// The switch over the kinds, complete; the kind of a foreign interface may yet be none of them.
+void dispatchByKind(const AnyReference& value, TypeVisitor& visitor)
 {
-    const AnyReference value(reference);
-    if (value.isEmpty()) {
-        warn("NULL type");
-        return;
-    }
     switch (value.kind()) {
     case TypeKind::Unknown:
         return visitor.visitUnknown(value);
@@ -90,6 +84,16 @@ void dispatch(const AnyReferenceBase& reference, TypeVisitor& visitor)
     case TypeKind::Optional:
         return visitor.visitOptional(value);
     }
+}
+
+} // namespace
+
+void dispatch(const AnyReferenceBase& value, TypeVisitor& visitor)
+{
+    if (value.isEmpty())
+        warn("NULL type");
+    else
+        dispatchByKind(AnyReference(value), visitor);
 }
 
 } // namespace zu

@@ -91,7 +91,9 @@ private:
 
 std::string takenMessage(const TypeInterface& type, const TypeInterface& owner)
 {
-    return "the name " + type.name() + " of " + type.info().name() + " is that of " + owner.info().name() + " already";
+    std::string message = "the name ";
+    message.append(type.name()).append(" of ").append(type.info().name()).append(" is that of ");
+    return message.append(owner.info().name()).append(" already");
 }
 
 } // namespace

@@ -14,6 +14,7 @@
 #include <zu/type/string.hpp>
 #include <zu/type/struct.hpp>
 
+#include <iterator>
 #include <stdexcept>
 
 namespace zu {
@@ -40,45 +41,11 @@ ObjectTypeInterface::~ObjectTypeInterface() = default;
 
 std::string_view kindName(TypeKind kind) noexcept
 {
-    switch (kind) {
-    case TypeKind::Unknown:
-        return "Unknown";
-    case TypeKind::Void:
-        return "Void";
-    case TypeKind::Int:
-        return "Int";
-    case TypeKind::Float:
-        return "Float";
-    case TypeKind::String:
-        return "String";
-    case TypeKind::List:
-        return "List";
-    case TypeKind::Map:
-        return "Map";
-    case TypeKind::Object:
-        return "Object";
-    case TypeKind::Pointer:
-        return "Pointer";
-    case TypeKind::Tuple:
-        return "Tuple";
-    case TypeKind::Dynamic:
-        return "Dynamic";
-    case TypeKind::Raw:
-        return "Raw";
-    case TypeKind::Iterator:
-        return "Iterator";
-    case TypeKind::Function:
-        return "Function";
-    case TypeKind::Signal:
-        return "Signal";
-    case TypeKind::Property:
-        return "Property";
-    case TypeKind::VarArgs:
-        return "VarArgs";
-    case TypeKind::Optional:
-        return "Optional";
-    }
-    return {};
+    static constexpr std::string_view k_names[] = {
+        "Unknown", "Void", "Int", "Float",    "String",   "List",   "Map",      "Object",  "Pointer", "Tuple",
+        "Dynamic", "Raw",  "",    "Iterator", "Function", "Signal", "Property", "VarArgs", "Optional"};
+    const auto number = static_cast<std::size_t>(kind); // a negative one is beyond the end too
+    return number < std::size(k_names) ? k_names[number] : std::string_view();
 }
 
 std::string TypeInterface::name() const { return info().name(); }

@@ -8,6 +8,8 @@
 
 #include <list>
 #include <optional>
+#include <type_traits>
+#include <utility>
 
 namespace zu {
 
@@ -26,6 +28,22 @@ std::string errorOf(Call call)
 
 } // namespace
 
+namespace referencetest {
+
+template <class T, class = void>
+struct CanReferTo : std::false_type
+{
+};
+template <class T>
+struct CanReferTo<T, std::void_t<decltype(AnyReference::from(std::declval<T>()))>> : std::true_type
+{
+};
+
+} // namespace referencetest
+
+static_assert(referencetest::CanReferTo<int&>::value && referencetest::CanReferTo<const int&>::value);
+static_assert(!referencetest::CanReferTo<int>::value && !referencetest::CanReferTo<const int>::value,
+              "a reference to a temporary would dangle");
 static_assert(sizeof(AnyReference) == 16);
 static_assert(std::is_trivially_copyable_v<AnyReference>);
 

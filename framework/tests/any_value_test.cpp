@@ -128,6 +128,7 @@ TEST(AnyValue, CopiesLvaluesMovesTemporariesAndLeaksNeither)
         EXPECT_EQ(std::pair(Counted::copies, Counted::moves), std::pair(1, 1));
         const AnyValue taken = std::move(moved);
         const AnyValue copyOfTaken = taken;
+        EXPECT_NE(copyOfTaken.address(), taken.address());
         EXPECT_EQ(std::pair(Counted::copies, Counted::moves), std::pair(2, 1));
     }
     EXPECT_EQ(Counted::alive, before);

@@ -60,6 +60,7 @@ TEST(LogCategory, AddingFromManyThreadsGivesOneCategory)
 {
     std::vector<log::Category*> seen(8);
     std::vector<std::thread> threads;
+    threads.reserve(seen.size());
     for (auto& slot : seen)
         threads.emplace_back([&slot] { slot = &log::addCategory("test.raced"); });
     for (auto& thread : threads)
@@ -221,6 +222,7 @@ TEST(LogHandler, HandlersComeAndGoWhileOtherThreadsWrite)
     std::atomic<bool> stop{false};
     std::atomic<int> written{0};
     std::vector<std::thread> writers;
+    writers.reserve(3);
     for (int i = 0; i < 3; ++i)
         writers.emplace_back([&stop, &written] {
             while (!stop) {

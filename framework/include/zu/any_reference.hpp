@@ -2,7 +2,9 @@
 
 #include <zu/type_of.hpp>
 
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>

@@ -28,7 +28,7 @@ public:
     /// A copy of what `source` refers to; empty when that is empty.
     explicit AnyValue(const AnyReferenceBase& source);
 
-    AnyValue(const AnyValue& other) : AnyReferenceBase() { copyFrom(other); }
+    AnyValue(const AnyValue& other) : AnyReferenceBase(other) { copyFrom(other); }
     AnyValue(AnyValue&& other) noexcept : AnyReferenceBase() { takeFrom(other); }
     AnyValue& operator=(const AnyValue& other)
     {
@@ -109,7 +109,8 @@ inline void AnyValue::takeFrom(AnyValue& other) noexcept
 
 inline void AnyValue::swap(AnyValue& other) noexcept
 {
-    AnyValue kept(std::move(other));
+    AnyValue kept;
+    kept.takeFrom(other);
     other.takeFrom(*this);
     takeFrom(kept);
 }

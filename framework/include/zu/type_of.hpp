@@ -25,8 +25,8 @@ public:
     TypeSlot& operator=(const TypeSlot&) = delete;
     ~TypeSlot() = default;
 
-    /// The registered interface of the type, else what `make` gives. Threads that come while it runs wait for it; when
-    /// it throws, its caller gets the exception and the next thread tries anew.
+    /// The registered interface of the type, else what `make` gives. Threads that come while it runs wait for it, so
+    /// it must not ask for the same slot; when it throws, its caller gets the exception and the next thread tries anew.
     const TypeInterface* get(const TypeInfo& info, Make make)
     {
         const TypeInterface* type = ready();

@@ -20,7 +20,7 @@ struct Hidden
     int number = 0;
 };
 
-zu::AnyValue make(const std::string& what)
+inline zu::AnyValue make(const std::string& what)
 {
     if (what == "int")
         return zu::AnyValue::from(42);
@@ -37,7 +37,7 @@ zu::AnyValue make(const std::string& what)
     throw std::invalid_argument(what);
 }
 
-bool recognises(const std::string& what, const zu::AnyReferenceBase& value)
+inline bool recognises(const std::string& what, const zu::AnyReferenceBase& value)
 {
     if (what == "int")
         return value.holds<int>() && *value.getIf<int>() == 42;
@@ -56,11 +56,11 @@ bool recognises(const std::string& what, const zu::AnyReferenceBase& value)
     throw std::invalid_argument(what);
 }
 
-const zu::TypeInterface* typeOfReading() { return zu::typeOf<Reading>(); }
+inline const zu::TypeInterface* typeOfReading() { return zu::typeOf<Reading>(); }
 
-void fail() { zu::AnyValue::from("text").to<int>(); }
+inline void fail() { zu::AnyValue::from("text").to<int>(); }
 
-std::string caughtFrom(void (*raise)())
+inline std::string caughtFrom(void (*raise)())
 {
     try {
         raise();
@@ -70,7 +70,7 @@ std::string caughtFrom(void (*raise)())
     return {};
 }
 
-std::string anonymousRefusal()
+inline std::string anonymousRefusal()
 {
     try {
         zu::AnyValue::from(Hidden());
@@ -80,9 +80,10 @@ std::string anonymousRefusal()
     return {};
 }
 
-bool registersAnonymous() { return zu::registerStruct<Hidden>("::plug::Hidden", {{"number", &Hidden::number}}); }
+inline bool registersAnonymous() { return zu::registerStruct<Hidden>("::plug::Hidden", {{"number", &Hidden::number}}); }
 
-constexpr Api k_api{&make, &recognises, &typeOfReading, &fail, &caughtFrom, &anonymousRefusal, &registersAnonymous};
+inline constexpr Api k_api{&make,       &recognises,       &typeOfReading,     &fail,
+                           &caughtFrom, &anonymousRefusal, &registersAnonymous};
 
 } // namespace
 } // namespace plug

@@ -11,7 +11,8 @@ inline std::string fingerprint(const AnyReferenceBase& value)
 {
     switch (value.kind()) {
     case TypeKind::Int:
-        return value.holds<std::uint64_t>() ? std::to_string(*value.getIf<std::uint64_t>()) : std::to_string(value.toInt());
+        return value.holds<std::uint64_t>() ? std::to_string(*value.getIf<std::uint64_t>())
+                                            : std::to_string(value.toInt());
     case TypeKind::Float:
         return std::to_string(value.toDouble());
     case TypeKind::String:
