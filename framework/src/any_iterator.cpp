@@ -12,7 +12,7 @@ AnyIterator::AnyIterator(AnyValue position, bool readOnly) : m_position(std::mov
         throw std::runtime_error("an iterator is made of a position only");
 }
 
-const IteratorTypeInterface& AnyIterator::interface() const
+const IteratorTypeInterface& AnyIterator::positionType() const
 {
     return static_cast<const IteratorTypeInterface&>(*m_position.type());
 }
@@ -27,14 +27,14 @@ void* AnyIterator::state() const
 AnyReference AnyIterator::operator*() const
 {
     void* const position = state();
-    const AnyReference element = interface().dereference(position);
+    const AnyReference element = positionType().dereference(position);
     return m_readOnly ? element.readOnly() : element;
 }
 
 AnyIterator& AnyIterator::operator++()
 {
     void* const position = state();
-    interface().next(position);
+    positionType().next(position);
     return *this;
 }
 
@@ -60,7 +60,7 @@ bool AnyIterator::equals(const AnyIterator& other) const
     const TypeInterface* type = m_position.type();
     const TypeInterface* otherType = other.m_position.type();
     return (type == otherType || type->info() == otherType->info()) &&
-           interface().equals(m_position.address(), other.m_position.address());
+           positionType().equals(m_position.address(), other.m_position.address());
 }
 
 namespace detail {

@@ -116,6 +116,17 @@ TEST(AnyValue, SwapsAndSelfAssignmentKeepsTheValue)
     EXPECT_TRUE(a.isEmpty());
 }
 
+TEST(AnyValue, CanBeAssignedAPartOfItself)
+{
+    const auto nested = [] { return AnyValue::from(std::vector<AnyValue>{AnyValue::from("a"), AnyValue::from("b")}); };
+    AnyValue copied = nested();
+    copied = copied.getIf<std::vector<AnyValue>>()->at(1);
+    EXPECT_EQ(copied.toString(), "b");
+    AnyValue moved = nested();
+    moved = std::move(moved.getIf<std::vector<AnyValue>>()->at(1));
+    EXPECT_EQ(moved.toString(), "b");
+}
+
 TEST(AnyValue, CopiesLvaluesMovesTemporariesAndLeaksNeither)
 {
     Counted::copies = Counted::moves = 0;

@@ -7,6 +7,8 @@
 
 namespace zu {
 
+class IteratorTypeInterface;
+
 /// A position in a list, a map or variable arguments, to walk their elements:
 ///
 ///     for (const AnyReference element : AnyReference::from(numbers))
@@ -49,7 +51,7 @@ public:
 private:
     bool equals(const AnyIterator& other) const;
     void* state() const;
-    const class IteratorTypeInterface& interface() const;
+    const IteratorTypeInterface& positionType() const;
 
     AnyValue m_position;
     bool m_readOnly = false;
