@@ -2,6 +2,7 @@
 #include <zu/native/struct.hpp>
 #include <zu/registry.hpp>
 
+#include <algorithm>
 #include <map>
 #include <mutex>
 #include <set>
@@ -149,13 +150,13 @@ void checkNames(const std::string& className, const std::vector<std::string>& me
 {
     if (className.empty())
         throw std::invalid_argument("a struct needs a class name");
+    if (std::find(memberNames.begin(), memberNames.end(), std::string()) != memberNames.end())
+        throw std::invalid_argument("a member of " + className + " has no name");
     std::set<std::string_view> seen;
-    for (const std::string& name : memberNames) {
-        if (name.empty())
-            throw std::invalid_argument("a member of " + className + " has no name");
-        if (!seen.insert(name).second)
-            throw std::invalid_argument("the member " + name + " of " + className + " is there twice");
-    }
+    const auto again = std::find_if(memberNames.begin(), memberNames.end(),
+                                    [&seen](const std::string& name) { return !seen.insert(name).second; });
+    if (again != memberNames.end())
+        throw std::invalid_argument("the member " + *again + " of " + className + " is there twice");
 }
 
 } // namespace detail
