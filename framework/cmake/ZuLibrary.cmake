@@ -3,6 +3,9 @@
 include(GNUInstallDirs)
 include(GenerateExportHeader)
 
+# A library that is found outside the prefix, the host framework among them, is found there at run time, too.
+set(CMAKE_INSTALL_RPATH_USE_LINK_PATH ON)
+
 option(ZU_WERROR "Treat compiler warnings as errors" OFF)
 
 # One strictness for every target of ours.

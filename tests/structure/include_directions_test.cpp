@@ -90,7 +90,9 @@ struct Rule
 const std::vector<Rule> k_rules = {
     {"framework/include/", {Layer::FrameworkPublic, Layer::Other}},
     {"framework/src/", {Layer::FrameworkPublic, Layer::FrameworkPrivate, Layer::Spdlog, Layer::Other}},
-    {"framework/tests/", {Layer::FrameworkPublic, Layer::Other}},
+    {"framework/examples/", {Layer::FrameworkPublic, Layer::Other}},
+    {"framework/tests/", {Layer::FrameworkPublic, Layer::Tests, Layer::Other}},
+    {"bench/", {Layer::FrameworkPublic, Layer::PackagePublic, Layer::Tests, Layer::Qt, Layer::Other}},
     {"include/zupackage/", {Layer::PackagePublic, Layer::Qt, Layer::Other}},
     // The places of the package library that may know the framework.
     {"src/package_log.",
@@ -122,7 +124,7 @@ std::optional<std::string> forbiddenInclude(const std::string& file, const std::
 std::vector<fs::path> sourcesAndHeaders()
 {
     std::vector<fs::path> files;
-    for (const char* folder : {"framework", "include", "src", "cli", "examples", "tests"})
+    for (const char* folder : {"bench", "framework", "include", "src", "cli", "examples", "tests"})
         for (const auto& entry : fs::recursive_directory_iterator(test::sourcePath(folder)))
             if (entry.path().extension() == ".cpp" || entry.path().extension() == ".hpp")
                 files.push_back(entry.path());

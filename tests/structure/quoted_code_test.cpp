@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <optional>
 #include <sstream>
 
@@ -17,6 +18,16 @@ struct Quotation
     std::string file;
     std::string code;
 };
+
+/// Without the blanks that its lines start with: a page sets code further to the left.
+std::string unindented(const std::string& text)
+{
+    std::string result;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);)
+        result += line.substr(std::min(line.size(), line.find_first_not_of(' '))) + '\n';
+    return result;
+}
 
 std::vector<Quotation> quotationsOf(const std::string& page)
 {
@@ -59,8 +70,8 @@ TEST(Structure, QuotedCodeStandsInTheFileThatItNames)
         for (const Quotation& quotation : quotationsOf(test::readFile(page))) {
             SCOPED_TRACE(page.string() + ":\n" + quotation.code);
             ASSERT_NE(quotation.file, "") << "no comment before the block names its file";
-            EXPECT_NE(test::readFile(test::sourcePath(quotation.file)).find(quotation.code), std::string::npos)
-                << "not in " << quotation.file;
+            const std::string source = unindented(test::readFile(test::sourcePath(quotation.file)));
+            EXPECT_NE(source.find(unindented(quotation.code)), std::string::npos) << "not in " << quotation.file;
             ++quotations;
         }
     EXPECT_GT(quotations, 0);

@@ -9,19 +9,20 @@
 
 /// Conversion between values of different types.
 ///
-/// | from                 | to                          | how |
-/// |----------------------|-----------------------------|--------------------------------------------------------------|
-/// | any type             | the same type               | copied, whatever the kind | | anything             | Dynamic
-/// | the target's own `set` (an AnyValue takes a copy as it is)   | | Dynamic              | anything | its content is
-/// converted                                     | | Int, Float           | Int, Float                  | when the
-/// target's range has the number; see below            | | String               | String                      | the
-/// bytes                                                    | | List                 | List                        |
-/// element by element                                           | | Map                  | Map | entry by entry, keys
-/// too; no two keys may become one         | | Tuple                | Tuple                       | by name when both
-/// have names, each having the other's; else  | |                      |                             | by position,
-/// their number being equal                        | | Tuple with names     | Map with keys of kind String| one entry a
-/// member                                           | | Map (String or       | Tuple with names            | one entry
-/// for each member and none besides                   | | Dynamic keys)        |                             | |
+/// | from                         | to                           | how                                               |
+/// |------------------------------|------------------------------|---------------------------------------------------|
+/// | any type                     | the same type                | copied, whatever the kind                         |
+/// | anything                     | Dynamic                      | the target's own `set` (an AnyValue takes a copy) |
+/// | Dynamic                      | anything                     | its content is converted                          |
+/// | Int, Float                   | Int, Float                   | when the target's range has the number; see below |
+/// | String                       | String                       | the bytes                                         |
+/// | Raw                          | Raw                          | the bytes                                         |
+/// | List                         | List                         | element by element                                |
+/// | Map                          | Map                          | entry by entry, keys too; no two may become one   |
+/// | Tuple                        | Tuple                        | by name when both have names, each having the     |
+/// |                              |                              | other's; else by position, in equal number        |
+/// | Tuple with names             | Map with keys of kind String | one entry a member                                |
+/// | Map (String or Dynamic keys) | Tuple with names             | one entry for each member, and none besides       |
 ///
 /// Nothing else converts; no text is parsed and no number printed. Numbers: false and true are 0 and 1, and only these
 /// become a bool; a fraction is dropped on the way to an integer; a number that a floating-point type has not is
