@@ -8,15 +8,21 @@ namespace zu {
 
 namespace {
 
+/// Writes the texts with `separator` before each, which is ", " after the first.
+void dumpJoined(std::ostream& out, const std::list<std::string>& texts, const char*& separator, const char* quote)
+{
+    for (const std::string& text : texts) {
+        out << separator << quote << text << quote;
+        separator = ", ";
+    }
+}
+
 void dumpQuoted(std::ostream& out, const std::map<std::string, std::list<std::string>>& texts)
 {
     for (const auto& [key, list] : texts) {
-        out << "  " << key << " -> ";
         const char* separator = "";
-        for (const std::string& text : list) {
-            out << separator << '"' << text << '"';
-            separator = ", ";
-        }
+        out << "  " << key << " -> ";
+        dumpJoined(out, list, separator, "\"");
         out << std::endl;
     }
 }
@@ -27,10 +33,7 @@ void dumpTags(std::ostream& out, const std::map<std::string, std::list<std::stri
     const char* separator = "";
     for (const auto& [lang, list] : tags) {
         out << "  " << lang << " -> ";
-        for (const std::string& tag : list) {
-            out << separator << tag;
-            separator = ", ";
-        }
+        dumpJoined(out, list, separator, "");
         out << std::endl;
     }
 }
@@ -38,10 +41,7 @@ void dumpTags(std::ostream& out, const std::map<std::string, std::list<std::stri
 void dumpPermissions(std::ostream& out, const std::list<std::string>& permissions)
 {
     const char* separator = "";
-    for (const std::string& permission : permissions) {
-        out << separator << permission;
-        separator = ", ";
-    }
+    dumpJoined(out, permissions, separator, "");
     out << std::endl;
 }
 
