@@ -18,6 +18,25 @@ constexpr int k_inputs = 10'000;
 
 } // namespace
 
+TEST(PackageRoundTrip, GeneratedPackagesHaveRecordsOfEveryKind)
+{
+    std::size_t behaviors = 0;
+    std::size_t dialogs = 0;
+    std::size_t languages = 0;
+    std::size_t requirements = 0;
+    std::size_t services = 0;
+    checkProperty(200, [&] {
+        const PackageInfo package = *packages(test::visibleTexts());
+        behaviors += package.behaviors().size();
+        dialogs += package.dialogs().size();
+        languages += package.languages().size();
+        requirements += package.robotRequirements().size() + package.morvoRequirements().size();
+        services += package.services().size();
+    });
+    for (const std::size_t count : {behaviors, dialogs, languages, requirements, services})
+        EXPECT_GT(count, 100u);
+}
+
 // What does not survive is stated by the exceptions below; visible texts and empty attributes do.
 TEST(PackageRoundTrip, WritingAndReadingGivesTheSamePackage)
 {

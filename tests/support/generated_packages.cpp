@@ -72,7 +72,8 @@ void addTexts(const Texts& values, Add add)
 template <class Add>
 void upTo(int most, Add add)
 {
-    for (int count = *rc::gen::inRange(0, most + 1); count > 0; --count)
+    // At full size, because a range shrinks with the size of the input: to nothing, for one as short as these.
+    for (int count = *resize(rc::kNominalSize, rc::gen::inRange(0, most + 1)); count > 0; --count)
         add();
 }
 
