@@ -8,6 +8,10 @@
 #include <memory>
 #include <string>
 
+namespace VX {
+class VXValue;
+}
+
 namespace zu {
 
 struct BehaviorInfoPrivate;
@@ -37,6 +41,10 @@ public:
     /// A behavior with empty texts, maps and lists, not user-requestable.
     BehaviorInfo();
     BehaviorInfo(const BehaviorInfo& other);
+    /// Decodes what toVXValue() encodes: an Array of pairs, found by their keys, in any order; pairs of other keys are
+    /// ignored. A value that is no Array gives an empty behavior; what is wrong inside one throws VX::VXError. Of
+    /// permissions that follow an equal one, one is kept; they are not compared with the supported ones.
+    BehaviorInfo(const VX::VXValue& value); // NOLINT(google-explicit-constructor): callers are used to it
     ~BehaviorInfo();
 
     /// Copies the content of `other` into this object. References to its fields, maps and lists stay valid, those to
@@ -144,6 +152,10 @@ public:
     /// one of its elements is a prefix of the code: "en" keeps "en" and "en_US", an empty element keeps everything, an
     /// empty list nothing. Conditions and permissions stay.
     void trimExtraInfo(std::list<std::string> descriptionLanguages, std::list<std::string> supportedLanguages);
+
+    /// Encodes the behavior for the older remote-call layer: 11 pairs of a key and a value, in a fixed order. `value` must
+    /// be Invalid or an Array, else VX::VXError is thrown; it is replaced as a whole.
+    void toVXValue(VX::VXValue& value) const;
 
 private:
     friend struct PrivateRecord;

@@ -13,6 +13,10 @@ QT_FORWARD_DECLARE_CLASS(QDomDocument)
 QT_FORWARD_DECLARE_CLASS(QDomElement)
 QT_FORWARD_DECLARE_CLASS(QDomNode)
 
+namespace VX {
+class VXValue;
+}
+
 namespace zu {
 
 struct DialogInfoPrivate;
@@ -30,6 +34,9 @@ public:
     /// A dialog with empty texts and no topic files.
     DialogInfo();
     DialogInfo(const DialogInfo& other);
+    /// Decodes what toVXValue() encodes, by position. A value that is no Array of exactly three elements gives an empty
+    /// dialog; what is wrong inside one throws VX::VXError.
+    DialogInfo(const VX::VXValue& value); // NOLINT(google-explicit-constructor): callers are used to it
     ~DialogInfo();
 
     /// Copies the content of `other` into this object. References to its fields, maps and lists stay valid, those to
@@ -65,6 +72,9 @@ public:
     /// Appends a "dialogContent" element to `parent`, a node of `document`. Topic files with an empty language or path
     /// are left out; what XML cannot carry is written as U+FFFD.
     void saveToManifest(QDomDocument& document, QDomNode& parent) const;
+
+    /// Encodes the dialog for the older remote-call layer: three pairs of a key and a value, in a fixed order.
+    VX::VXValue toVXValue() const;
 
 private:
     friend struct PrivateRecord;

@@ -6,6 +6,10 @@
 #include <memory>
 #include <string>
 
+namespace VX {
+class VXValue;
+}
+
 namespace zu {
 
 struct LanguageInfoPrivate;
@@ -23,6 +27,9 @@ public:
     /// A language with empty texts and no names.
     LanguageInfo();
     LanguageInfo(const LanguageInfo& other);
+    /// Decodes what toVXValue() encodes, by position. The shape is not looked at first: a value of another one throws
+    /// VX::VXError.
+    LanguageInfo(const VX::VXValue& value); // NOLINT(google-explicit-constructor): callers are used to it
     ~LanguageInfo();
 
     /// Copies the content of `other` into this object.
@@ -50,6 +57,10 @@ public:
     std::string name(const std::string& lang) const;
     /// Sets or replaces the display name in `lang`.
     void setName(const std::string& name, const std::string& lang);
+
+    /// Encodes the language for the older remote-call layer: five pairs of a key and a value, in a fixed order. `value`
+    /// must be Invalid or an Array, else VX::VXError is thrown; it is replaced as a whole.
+    void toVXValue(VX::VXValue& value) const;
 
 private:
     friend struct PrivateRecord;

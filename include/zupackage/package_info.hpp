@@ -15,6 +15,10 @@
 
 QT_FORWARD_DECLARE_CLASS(QFile)
 
+namespace VX {
+class VXValue;
+}
+
 namespace zu {
 
 /// A robot hardware that a package needs. Versions are texts; nothing here compares or parses them.
@@ -63,6 +67,10 @@ public:
     /// A package with empty texts, maps and lists, not for installation at start-up only.
     PackageInfo();
     PackageInfo(const PackageInfo& other);
+    /// Decodes what toVXValue() encodes, by position. The last pair, or the last two, may be missing, as older programs
+    /// send it. A value that is no Array of 18 to 20 elements gives an empty package; what is wrong inside one throws
+    /// VX::VXError.
+    PackageInfo(const VX::VXValue& value); // NOLINT(google-explicit-constructor): callers are used to it
     ~PackageInfo();
 
     /// Copies the content of `other` into this object. References to its fields, maps and lists stay valid, those to
@@ -223,6 +231,11 @@ public:
     /// The same for the file of that name, in UTF-8.
     bool saveToManifestFile(const std::string& path) const;
     /// @}
+
+    /// Encodes the package for the older remote-call layer: 20 pairs of a key and a value, in a fixed order; an empty Array
+    /// when uuid() is empty. installOnlyAtStartup() is not carried. `value` must be Invalid or an Array, else VX::VXError
+    /// is thrown; it is replaced as a whole. Not const: existing callers are built against this signature.
+    void toVXValue(VX::VXValue& value);
 
 private:
     friend struct PrivateRecord;

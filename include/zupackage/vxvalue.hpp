@@ -1,8 +1,222 @@
 #pragma once
 
+#include <zupackage/export.hpp>
+
+#include <zu/any_reference.hpp>
+#include <zu/native/native.hpp>
+#include <zu/type/dynamic.hpp>
+#include <zu/type/raw.hpp>
+
+#include <cstddef>
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
 /// The dynamic variant of the middleware's older remote-call layer.
 namespace VX {
 
-class VXValue;
+/// A byte string; usually UTF-8.
+using TVXValueString = std::string;
+
+/// The bytes of a Binary or an Object.
+using TVXValueBytes = std::vector<unsigned char>;
+
+/// What the variant throws. what() is "\tMODULE::METHOD\n\tMESSAGE"; an empty module or method is left out, with its
+/// mark. Source file and line are for debuggers and are not part of the text.
+class ZUPACKAGE_EXPORT VXError : public std::runtime_error
+{
+public:
+    VXError(const std::string& module, const std::string& method, const std::string& message, const char* file,
+            int line);
+    VXError(const VXError&) noexcept = default;
+    VXError& operator=(const VXError&) noexcept = default;
+    ~VXError() override;
+};
+
+/// Holds one of eight kinds of value; an Array holds further values. It owns what it holds: a copy copies the whole tree,
+/// a moved-from value is Invalid. Copying, destroying and dumping take any depth.
+///
+/// Typed access is guarded by assertions, which throw VXError and leave the value as it was. Two of their rules are
+/// lenient, and callers of the old layer rely on that: nothing fails that asks for an Int, and a Float passes for every
+/// type (see xAssertType()).
+///
+/// Not synchronised. Reading a Binary as a string changes the value even through a const reference, so that even readers
+/// of one value must take turns.
+class ZUPACKAGE_EXPORT VXValue
+{
+public:
+    /// The kind of a value. The numbers are part of the interface.
+    enum class Type : std::uint32_t
+    {
+        Invalid = 0,
+        Array = 1,
+        Bool = 2,
+        Int = 3,
+        Float = 4,
+        String = 5,
+        Object = 6, ///< bytes; nothing in this library makes one
+        Binary = 7
+    };
+
+    /// Invalid.
+    VXValue() noexcept {} // not defaulted: a const one needs no initialiser
+    // Not explicit, as callers are used to.
+    VXValue(bool value) noexcept;         // NOLINT(google-explicit-constructor)
+    VXValue(int value) noexcept;          // NOLINT(google-explicit-constructor)
+    VXValue(float value) noexcept;        // NOLINT(google-explicit-constructor)
+    VXValue(const TVXValueString& value); // NOLINT(google-explicit-constructor)
+    /// A String of the characters up to the terminating zero. A null pointer throws.
+    VXValue(const char* value); // NOLINT(google-explicit-constructor)
+    /// No other pointer becomes a Bool by accident.
+    VXValue(const void*) = delete;
+    /// A Binary of a copy of the `size` bytes at `data`.
+    VXValue(const void* data, std::size_t size);
+
+    VXValue(const VXValue& other);
+    VXValue(VXValue&& other) noexcept
+        : m_type(std::exchange(other.m_type, Type::Invalid)), m_value(std::exchange(other.m_value, Payload()))
+    {
+    }
+    VXValue& operator=(const VXValue& other);
+    VXValue& operator=(VXValue&& other) noexcept
+    {
+        // By way of a third, because `other` may be a part of this.
+        VXValue taken(std::move(other));
+        std::swap(m_type, taken.m_type);
+        std::swap(m_value, taken.m_value);
+        return *this;
+    }
+    /// Makes this a String of the characters up to the terminating zero. A null pointer throws.
+    VXValue& operator=(const char* value);
+    // So that a literal 0 is the number, not a null pointer.
+    VXValue& operator=(bool value) noexcept { return *this = VXValue(value); }
+    VXValue& operator=(int value) noexcept { return *this = VXValue(value); }
+    VXValue& operator=(float value) noexcept { return *this = VXValue(value); }
+    ~VXValue()
+    {
+        if (m_type != Type::Invalid)
+            clear();
+    }
+
+    Type type() const noexcept { return m_type; }
+
+    /// The name of a type: "Invalid", "Array", "Bool", "Int", "Float", "String", "Object", "Binary". Throws for a number that
+    /// is none.
+    static std::string TypeToString(Type type);
+
+    /// Makes an Invalid value an empty Array; then gives the Array `size` elements, new ones Invalid. Throws for values of
+    /// other types, and std::length_error for a negative size.
+    void resizeArray(int size);
+
+    /// The elements of an Array, the characters of a String, the bytes of a Binary or Object; 0 for the other types.
+    int size() const;
+
+    /// An element. The array never grows here: give it its size first. A const value must be an Array; another one is
+    /// made one when it is Invalid. Throws VXError when the array is too short, std::out_of_range for a negative index.
+    VXValue& operator[](int index);
+    const VXValue& operator[](int index) const;
+
+    /// Whether an Array, String, Binary or Object is not empty, an Int or Float not zero, a Bool set. Throws for Invalid.
+    operator bool() const; // NOLINT(google-explicit-constructor)
+
+    /// The text of a String; throws for other types.
+    ///
+    /// A Binary of less than 100,000 bytes *becomes* a String first, with a warning on standard output: of its bytes and a
+    /// zero behind them that counts as a character. Peers that send texts as Binary are read so, and the callers of the
+    /// old layer know the zero.
+    operator const TVXValueString&() const; // NOLINT(google-explicit-constructor)
+
+    /// Throws when the value is of another type, unless Int is asked for or the value is a Float.
+    void xAssertType(Type type) const;
+
+    /// Makes an Invalid value an empty one of that type; throws when it is of another type.
+    void xAssertCompatibleType(Type type);
+
+    /// Throws when the value is no Array or has less than `size` elements.
+    void xAssertArraySize(int size) const;
+
+    /// The value as text for people. Verbosity 0 and below gives nothing, 1 the values ("[1, "a"]"), 2 their types and
+    /// addresses too, 3 and above a frame of tags around each. The asymmetries of the format (two prefixes before an
+    /// address, a closing Binary tag without an opening one at verbosity 2) are part of it.
+    std::string dump(int verbosity) const;
+
+private:
+    friend class VXValueDump;
+    friend class VXValueType;
+
+    using Array = std::vector<VXValue>;
+
+    union Payload {
+        std::uint64_t bits = 0;
+        bool boolean;
+        std::int32_t integer;
+        float real;
+        TVXValueString* string;
+        Array* array;
+        TVXValueBytes* bytes; ///< of a Binary or an Object
+    };
+
+    static void destroy(Array* array) noexcept;
+    void clear() noexcept;
+    void copyLeaf(const VXValue& other);
+    void copyTree(const VXValue& other);
+    void becomeString() const;
+    void assertSize(std::int64_t size) const;
+    VXValue& element(int index) const;
+
+    // Mutable, because a Binary that is read as a string becomes one.
+    mutable Type m_type = Type::Invalid;
+    mutable Payload m_value;
+};
+
+static_assert(sizeof(VXValue) == 16, "the type and the payload, nothing else");
+
+/// How the host framework's type system sees a VXValue: as a dynamic, whose content is what the value holds. Registered when
+/// the library is loaded, so that any value of the framework converts to a VXValue, and a VXValue to any of its types.
+class ZUPACKAGE_EXPORT VXValueType : public zu::Native<VXValue, zu::DynamicTypeInterface>
+{
+public:
+    ~VXValueType() override;
+
+    /// The payload, inside `value`: a reference of type void for Invalid, to the vector of VXValue of an Array, the flag,
+    /// the 32-bit integer, the float, the string, the bytes of a Binary (as Raw); an empty one for an Object.
+    zu::AnyReference get(void* value) const override;
+
+    /// Replaces `value` by the conversion of what `source` refers to:
+    ///
+    /// | kind                              | becomes                                                                  |
+    /// |-----------------------------------|--------------------------------------------------------------------------|
+    /// | Void                              | Invalid                                                                  |
+    /// | Int                               | Bool for a bool; else Int, of the low 32 bits                            |
+    /// | Float                             | Float, narrowed                                                          |
+    /// | String                            | String, zero bytes included                                              |
+    /// | List, VarArgs                     | Array of the elements                                                    |
+    /// | Map                               | Array of pairs (Arrays of key and value)                                 |
+    /// | Tuple                             | Array of the members; with member names, of pairs of name and member     |
+    /// | Dynamic                           | what its content becomes; the generic object handle is refused           |
+    /// | Raw                               | Binary                                                                   |
+    /// | Function, Signal, Property        | Invalid, with a warning to "zutype.typedispatcher"                       |
+    /// | Unknown, Object, Pointer, Iterator, Optional | refused                                                       |
+    ///
+    /// An empty reference becomes Invalid, with a warning to the same category. What is refused, and what is nested deeper
+    /// than zu::k_maxNesting, throws VXError; `value` is then as it was.
+    void set(void* value, const zu::AnyReference& source) const override;
+};
+
+/// Shows a vector of bytes as a raw buffer.
+class ZUPACKAGE_EXPORT TypeBinaryAdapter : public zu::Native<TVXValueBytes, zu::RawTypeInterface>
+{
+public:
+    ~TypeBinaryAdapter() override;
+
+    /// The one adapter, made on the first call, for the life of the process.
+    static const TypeBinaryAdapter& instance();
+
+    std::string_view get(const void* value) const override;
+    void set(void* value, std::string_view bytes) const override;
+};
 
 } // namespace VX

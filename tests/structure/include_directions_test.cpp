@@ -93,8 +93,12 @@ const std::vector<Rule> k_rules = {
     {"framework/examples/", {Layer::FrameworkPublic, Layer::Other}},
     {"framework/tests/", {Layer::FrameworkPublic, Layer::Tests, Layer::Other}},
     {"bench/", {Layer::FrameworkPublic, Layer::PackagePublic, Layer::Tests, Layer::Qt, Layer::Other}},
+    {"include/zupackage/vxvalue.hpp", {Layer::PackagePublic, Layer::FrameworkPublic, Layer::Other}},
     {"include/zupackage/", {Layer::PackagePublic, Layer::Qt, Layer::Other}},
     // The places of the package library that may know the framework.
+    {"src/type_registration.", {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Other}},
+    {"src/vxvalue_type.", {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Other}},
+    {"src/vxvalueconverter.", {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Other}},
     {"src/package_log.",
      {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Qt, Layer::Other}},
     {"src/", {Layer::PackagePublic, Layer::PackagePrivate, Layer::Qt, Layer::Other}},

@@ -1,0 +1,268 @@
+#include <zupackage/vxvalue.hpp>
+
+#include <cstdio>
+#include <cstring>
+#include <limits>
+#include <memory>
+#include <sstream>
+#include <utility>
+
+namespace VX {
+
+namespace {
+
+constexpr char k_module[] = "VXValue";
+constexpr char k_file[] = "src/vxvalue.cpp";
+
+// Room that a value gets when it becomes one of these types: callers fill it piece by piece.
+constexpr std::size_t k_arrayRoom = 32;
+constexpr std::size_t k_stringRoom = 64;
+constexpr std::size_t k_binaryRoom = 1024;
+
+/// From here on a Binary is too large to be read as a string.
+constexpr std::size_t k_stringViewLimit = 100'000;
+
+std::string errorText(const std::string& module, const std::string& method, const std::string& message)
+{
+    std::string text;
+    if (!module.empty())
+        text += "\t" + module;
+    if (!method.empty())
+        text += "::" + method;
+    return text + "\n\t" + message;
+}
+
+[[noreturn]] void fail(const std::string& method, const std::string& message, int line)
+{
+    throw VXError(k_module, method, message, k_file, line);
+}
+
+void assertThat(bool condition, int line)
+{
+    if (!condition)
+        fail("Assert failed", std::string(k_file) + ":" + std::to_string(line), line);
+}
+
+std::string typeErrorMessage(const VXValue& value, const std::string& expected)
+{
+    return "Expected a " + expected + " but received a " + VXValue::TypeToString(value.type()) +
+           " (vxvalue contents: " + value.dump(1) + " )";
+}
+
+template <class Container>
+std::unique_ptr<Container> withRoom(std::size_t room)
+{
+    auto container = std::make_unique<Container>();
+    container->reserve(room);
+    return container;
+}
+
+} // namespace
+
+VXError::VXError(const std::string& module, const std::string& method, const std::string& message, const char* /*file*/,
+                 int /*line*/)
+    : std::runtime_error(errorText(module, method, message))
+{
+}
+
+VXError::~VXError() = default;
+
+VXValue::VXValue(bool value) noexcept : m_type(Type::Bool) { m_value.boolean = value; }
+
+VXValue::VXValue(int value) noexcept : m_type(Type::Int) { m_value.integer = value; }
+
+VXValue::VXValue(float value) noexcept : m_type(Type::Float) { m_value.real = value; }
+
+VXValue::VXValue(const TVXValueString& value) : m_type(Type::String) { m_value.string = new TVXValueString(value); }
+
+VXValue::VXValue(const char* value)
+{
+    assertThat(value != nullptr, __LINE__);
+    m_value.string = new TVXValueString(value);
+    m_type = Type::String;
+}
+
+VXValue::VXValue(const void* data, std::size_t size) : m_type(Type::Binary)
+{
+    const auto* first = static_cast<const unsigned char*>(data);
+    m_value.bytes = new TVXValueBytes(first, first + size);
+}
+
+// Delegating, so that what was copied goes when the rest cannot be.
+VXValue::VXValue(const VXValue& other) : VXValue() { copyTree(other); }
+
+VXValue& VXValue::operator=(const VXValue& other)
+{
+    if (this != &other)
+        *this = VXValue(other);
+    return *this;
+}
+
+VXValue& VXValue::operator=(const char* value) { return *this = VXValue(value); }
+
+std::string VXValue::TypeToString(Type type)
+{
+    switch (type) {
+    case Type::Invalid:
+        return "Invalid";
+    case Type::Array:
+        return "Array";
+    case Type::Bool:
+        return "Bool";
+    case Type::Int:
+        return "Int";
+    case Type::Float:
+        return "Float";
+    case Type::String:
+        return "String";
+    case Type::Object:
+        return "Object";
+    case Type::Binary:
+        return "Binary";
+    }
+    fail("TypeToString", "Unknown type: " + std::to_string(static_cast<std::uint32_t>(type)), __LINE__);
+}
+
+void VXValue::resizeArray(int size)
+{
+    if (size < 0)
+        throw std::length_error("a VXValue cannot have " + std::to_string(size) + " elements");
+    if (m_type == Type::Invalid) {
+        // Without the room of xAssertCompatibleType(): who sizes an array knows what goes into it, and most are pairs.
+        m_value.array = new Array(static_cast<std::size_t>(size));
+        m_type = Type::Array;
+        return;
+    }
+    xAssertCompatibleType(Type::Array);
+    m_value.array->resize(static_cast<std::size_t>(size));
+}
+
+int VXValue::size() const
+{
+    switch (m_type) {
+    case Type::Invalid:
+    case Type::Bool:
+    case Type::Int:
+    case Type::Float:
+        return 0;
+    case Type::Array:
+        assertThat(m_value.array != nullptr, __LINE__);
+        return static_cast<int>(m_value.array->size());
+    case Type::String:
+        assertThat(m_value.string != nullptr, __LINE__);
+        return static_cast<int>(m_value.string->size());
+    case Type::Object:
+    case Type::Binary:
+        assertThat(m_value.bytes != nullptr, __LINE__);
+        return static_cast<int>(m_value.bytes->size());
+    }
+    return 0;
+}
+
+VXValue& VXValue::element(int index) const
+{
+    assertSize(std::int64_t(index) + 1);
+    if (index < 0)
+        throw std::out_of_range("invalid vector<T> subscript");
+    return (*m_value.array)[static_cast<std::size_t>(index)];
+}
+
+VXValue& VXValue::operator[](int index)
+{
+    xAssertCompatibleType(Type::Array);
+    return element(index);
+}
+
+const VXValue& VXValue::operator[](int index) const
+{
+    xAssertType(Type::Array);
+    return element(index);
+}
+
+VXValue::operator bool() const
+{
+    switch (m_type) {
+    case Type::Invalid:
+        break;
+    case Type::Bool:
+        return m_value.boolean;
+    case Type::Int:
+        return m_value.integer != 0;
+    case Type::Float:
+        return m_value.real != 0.0F;
+    case Type::Array:
+    case Type::String:
+    case Type::Object:
+    case Type::Binary:
+        return size() != 0;
+    }
+    fail("const bool() const", "Cannot cast to bool an VXValue of invalid type.", __LINE__);
+}
+
+VXValue::operator const TVXValueString&() const
+{
+    if (m_type == Type::Binary && m_value.bytes->size() < k_stringViewLimit)
+        becomeString();
+    xAssertType(Type::String);
+    // A Float has passed, and has no text to show.
+    assertThat(m_type == Type::String, __LINE__);
+    return *m_value.string;
+}
+
+void VXValue::becomeString() const
+{
+    const int count = size();
+    std::printf("WARNING: VXValue::operator const TVXValueString&: creating a string on the fly to patch possible ruby "
+                "encoding problem (size of binary: %d)\n",
+                count);
+    auto string = std::make_unique<TVXValueString>();
+    string->reserve(static_cast<std::size_t>(count) + 1);
+    string->append(m_value.bytes->begin(), m_value.bytes->end());
+    // One more than there are bytes, for the zero: callers of the old layer know it.
+    string->push_back('\0');
+    delete m_value.bytes;
+    m_value.string = string.release();
+    m_type = Type::String;
+}
+
+void VXValue::xAssertType(Type type) const
+{
+    if (m_type == type)
+        return;
+    const std::string expected = TypeToString(type); // refuses a number that is no type, whatever the value is
+    if (type != Type::Int && m_type != Type::Float)
+        fail("xAssertType: type error", typeErrorMessage(*this, expected), __LINE__);
+}
+
+void VXValue::xAssertCompatibleType(Type type)
+{
+    if (m_type == type)
+        return;
+    const std::string expected = TypeToString(type); // refuses a number that is no type
+    if (m_type != Type::Invalid)
+        fail("xAssertCompatibleType: type error", typeErrorMessage(*this, expected), __LINE__);
+    Payload fresh;
+    if (type == Type::Array)
+        fresh.array = withRoom<Array>(k_arrayRoom).release();
+    else if (type == Type::String)
+        fresh.string = withRoom<TVXValueString>(k_stringRoom).release();
+    else if (type == Type::Binary)
+        fresh.bytes = withRoom<TVXValueBytes>(k_binaryRoom).release();
+    m_value = fresh;
+    m_type = type;
+}
+
+void VXValue::xAssertArraySize(int size) const { assertSize(size); }
+
+void VXValue::assertSize(std::int64_t size) const
+{
+    if (m_type != Type::Array)
+        fail("xAssertArraySize", "try to use a " + TypeToString(m_type) + " like an array", __LINE__);
+    if (this->size() < size)
+        fail("xAssertArraySize",
+             "The array has a size of " + std::to_string(this->size()) + " and you want it to be of size " +
+                 std::to_string(size),
+             __LINE__);
+}
+
+} // namespace VX
