@@ -37,4 +37,14 @@ void RatioReporter::Finalize()
     ConsoleReporter::Finalize();
 }
 
+int run(int argc, char** argv, std::vector<Target> targets)
+{
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 2;
+    RatioReporter reporter(std::move(targets));
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    return reporter.allReached() ? 0 : 1;
+}
+
 } // namespace bench

@@ -33,4 +33,8 @@ private:
     int m_missed = 0;
 };
 
+/// Runs the benchmarks of the program and prints their ratios.
+/// @return the exit code: 1 when a target was missed, 2 for a wrong argument.
+int run(int argc, char** argv, std::vector<Target> targets);
+
 } // namespace bench

@@ -234,12 +234,4 @@ std::vector<bench::Target> targets()
 } // namespace
 
 /// Exits with 1 when a target was missed.
-int main(int argc, char** argv)
-{
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 2;
-    bench::RatioReporter reporter(targets());
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    return reporter.allReached() ? 0 : 1;
-}
+int main(int argc, char** argv) { return bench::run(argc, argv, targets()); }

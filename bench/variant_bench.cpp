@@ -1,0 +1,224 @@
+// The variant and the records' wire form, beside the trees that a program would build instead: the same content as
+// nlohmann::json and as a QVariantList.
+#include "ratio_reporter.hpp"
+
+#include <zupackage/package_info.hpp>
+#include <zupackage/vxvalue.hpp>
+
+#include <QtCore/QVariant>
+
+#include <benchmark/benchmark.h>
+#include <nlohmann/json.hpp>
+
+namespace {
+
+using nlohmann::json;
+using VX::VXValue;
+using zu::PackageInfo;
+
+zu::BehaviorInfo behavior(int number)
+{
+    zu::BehaviorInfo behavior;
+    behavior.setPath("behaviors/number-" + std::to_string(number));
+    behavior.setNature(zu::BehaviorInfo::natureInteractive());
+    behavior.setUserRequestable(true);
+    for (const char* lang : {"en", "fr", "ja"}) {
+        behavior.setName("The name of a behavior", lang);
+        behavior.setDescription("What the behavior does, in a sentence of usual length.", lang);
+        for (const char* text : {"first", "second", "third"}) {
+            behavior.addTag(text, lang);
+            behavior.addTriggerSentence(std::string("a sentence that starts it, the ") + text, lang);
+            behavior.addLoadingResponse(std::string("what it says meanwhile, the ") + text, lang);
+        }
+    }
+    behavior.addCondition("peopleNearby > 0 && !talking", "entertain");
+    behavior.addPermission(zu::BehaviorInfo::k_permCanStandUp);
+    return behavior;
+}
+
+PackageInfo package(int behaviors)
+{
+    PackageInfo package;
+    package.setUuid("org.example.package");
+    package.setVersion("1.0");
+    package.setName("Package", "en");
+    for (int i = 0; i < behaviors; ++i)
+        package.addBehavior(behavior(i));
+    return package;
+}
+
+VXValue encoded(PackageInfo& package)
+{
+    VXValue value;
+    package.toVXValue(value);
+    return value;
+}
+
+// The same encoding, from the same records, with another tree.
+
+json pairOf(const char* key, json value) { return json::array({key, std::move(value)}); }
+
+json jsonOf(const std::map<std::string, std::string>& map)
+{
+    json array = json::array();
+    for (const auto& [key, text] : map)
+        array.push_back(json::array({key, text}));
+    return array;
+}
+
+json jsonOf(const std::list<std::string>& texts)
+{
+    json array = json::array();
+    for (const std::string& text : texts)
+        array.push_back(text);
+    return array;
+}
+
+json jsonOf(const std::map<std::string, std::list<std::string>>& map)
+{
+    json array = json::array();
+    for (const auto& [key, texts] : map)
+        array.push_back(json::array({key, jsonOf(texts)}));
+    return array;
+}
+
+json jsonOf(const zu::BehaviorInfo& behavior)
+{
+    json array = json::array();
+    array.push_back(pairOf("path", behavior.path()));
+    array.push_back(pairOf("nature", behavior.nature()));
+    array.push_back(pairOf("names", jsonOf(behavior.names())));
+    array.push_back(pairOf("descriptions", jsonOf(behavior.descriptions())));
+    array.push_back(pairOf("categories", nullptr));
+    array.push_back(pairOf("tags", jsonOf(behavior.languagesToTags())));
+    array.push_back(pairOf("triggerSentences", jsonOf(behavior.languagesToTriggerSentences())));
+    array.push_back(pairOf("loadingResponses", jsonOf(behavior.languagesToLoadingResponses())));
+    array.push_back(pairOf("conditions", jsonOf({{"entertain", behavior.conditions("entertain")}})));
+    array.push_back(pairOf("permissions", jsonOf(behavior.permissions())));
+    array.push_back(pairOf("userRequestable", behavior.isUserRequestable()));
+    return array;
+}
+
+json jsonOf(const PackageInfo& package)
+{
+    json behaviors = json::array();
+    for (const zu::BehaviorInfo& behavior : package.behaviors())
+        behaviors.push_back(jsonOf(behavior));
+    return json::array({pairOf("uuid", package.uuid()), pairOf("version", package.version()),
+                        pairOf("names", jsonOf(package.names())), pairOf("behaviors", std::move(behaviors))});
+}
+
+/// The tree of a json as a QVariantList.
+QVariant qVariantOf(const json& value)
+{
+    if (value.is_string())
+        return QString::fromStdString(value.get<std::string>());
+    if (value.is_boolean())
+        return value.get<bool>();
+    if (!value.is_array())
+        return {};
+    QVariantList list;
+    for (const json& element : value)
+        list.append(QVariant::fromValue(qVariantOf(element)));
+    return list;
+}
+
+/// QVariantList shares its content; a deep copy is one that detaches at every level.
+QVariant deepCopy(const QVariant& value)
+{
+    if (value.type() != QVariant::List)
+        return value.type() == QVariant::String ? QVariant(QString(value.toString().constData())) : value;
+    QVariantList copy;
+    for (const QVariant& element : value.toList())
+        copy.append(deepCopy(element));
+    return copy;
+}
+
+constexpr int k_behaviors = 20;
+
+void encodeToVariant(benchmark::State& state)
+{
+    PackageInfo source = package(k_behaviors);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(encoded(source));
+}
+BENCHMARK(encodeToVariant)->Name("encode/VXValue");
+
+void encodeToJson(benchmark::State& state)
+{
+    const PackageInfo source = package(k_behaviors);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(jsonOf(source));
+}
+BENCHMARK(encodeToJson)->Name("encode/json");
+
+void copyVariant(benchmark::State& state)
+{
+    PackageInfo source = package(k_behaviors);
+    const VXValue value = encoded(source);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(VXValue(value));
+}
+BENCHMARK(copyVariant)->Name("deep copy and destroy/VXValue");
+
+void copyJson(benchmark::State& state)
+{
+    const json value = jsonOf(package(k_behaviors));
+    for (auto _ : state) {
+        json copy = value;
+        benchmark::DoNotOptimize(copy);
+    }
+}
+BENCHMARK(copyJson)->Name("deep copy and destroy/json");
+
+void copyQVariant(benchmark::State& state)
+{
+    const QVariant value = qVariantOf(jsonOf(package(k_behaviors)));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(deepCopy(value));
+}
+BENCHMARK(copyQVariant)->Name("deep copy and destroy/QVariantList");
+
+void encodePackage(benchmark::State& state)
+{
+    PackageInfo source = package(static_cast<int>(state.range(0)));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(encoded(source));
+}
+BENCHMARK(encodePackage)->Name("toVXValue")->Arg(1)->Arg(10)->Arg(100)->Arg(1000);
+
+void encodePackageToJson(benchmark::State& state)
+{
+    const PackageInfo source = package(static_cast<int>(state.range(0)));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(jsonOf(source));
+}
+BENCHMARK(encodePackageToJson)->Name("to json")->Arg(100)->Arg(1000);
+
+void decodePackage(benchmark::State& state)
+{
+    PackageInfo source = package(static_cast<int>(state.range(0)));
+    const VXValue value = encoded(source);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(PackageInfo(value));
+}
+BENCHMARK(decodePackage)->Name("decode")->Arg(1)->Arg(10)->Arg(100)->Arg(1000);
+
+std::vector<bench::Target> targets()
+{
+    return {{"encode/VXValue", "encode/json", 1.0},
+            {"deep copy and destroy/VXValue", "deep copy and destroy/json", 1.0},
+            {"deep copy and destroy/VXValue", "deep copy and destroy/QVariantList", 0},
+            {"toVXValue/10", "toVXValue/1", 0},
+            {"toVXValue/100", "toVXValue/10", 0},
+            {"toVXValue/1000", "toVXValue/100", 11.0},
+            {"to json/1000", "to json/100", 0},
+            {"decode/10", "decode/1", 0},
+            {"decode/100", "decode/10", 0},
+            {"decode/1000", "decode/100", 11.0}};
+}
+
+} // namespace
+
+/// Exits with 1 when a target was missed.
+int main(int argc, char** argv) { return bench::run(argc, argv, targets()); }
