@@ -111,6 +111,7 @@ TEST(VXValueCopy, IsIndependentOfItsOriginal)
 TEST(VXValueCopy, ReadingACopiedBinaryLeavesTheOriginalABinary)
 {
     const VXValue original = array({binary("b")});
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the copying is what is tested
     const VXValue copy = original;
     testing::internal::CaptureStdout();
     static_cast<void>(static_cast<const std::string&>(copy[0]));
@@ -140,6 +141,7 @@ TEST(VXValueCopy, TheWholeCanReplaceAPart)
 TEST(VXValueCopy, OfAnObjectWithoutStorageIsRefused)
 {
     const VXValue object = objectWithoutStorage();
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the copying is what is tested
     EXPECT_THAT(errorOf([&] { VXValue copy(object); }), MatchesRegex(k_assertionFailed));
 }
 
