@@ -138,6 +138,19 @@ TEST(VXValueCopy, TheWholeCanReplaceAPart)
     EXPECT_EQ(layout(value), layout(array({array({1, "x"}), "x"})));
 }
 
+TEST(VXValueAssignment, OfALiteralKeepsItsTypeAndZeroIsNoNullPointer)
+{
+    VXValue value("text");
+    value = 0;
+    EXPECT_EQ(layout(value), "Int 0\n");
+    value = false;
+    EXPECT_EQ(layout(value), "Bool false\n");
+    value = 0.5F;
+    EXPECT_EQ(layout(value), "Float 0.5\n");
+    value = "text";
+    EXPECT_EQ(layout(value), layout(VXValue("text")));
+}
+
 TEST(VXValueCopy, OfAnObjectWithoutStorageIsRefused)
 {
     const VXValue object = objectWithoutStorage();
