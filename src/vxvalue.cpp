@@ -159,24 +159,22 @@ int VXValue::size() const
     return 0;
 }
 
-VXValue& VXValue::element(int index) const
-{
-    assertSize(std::int64_t(index) + 1);
-    if (index < 0)
-        throw std::out_of_range("invalid vector<T> subscript");
-    return (*m_value.array)[static_cast<std::size_t>(index)];
-}
-
-VXValue& VXValue::operator[](int index)
+void VXValue::failWithoutElement(int index)
 {
     xAssertCompatibleType(Type::Array);
-    return element(index);
+    failOutside(index);
 }
 
-const VXValue& VXValue::operator[](int index) const
+void VXValue::failWithoutElement(int index) const
 {
     xAssertType(Type::Array);
-    return element(index);
+    failOutside(index);
+}
+
+void VXValue::failOutside(int index) const
+{
+    assertSize(std::int64_t(index) + 1);
+    throw std::out_of_range("invalid vector<T> subscript"); // a negative index needs no size
 }
 
 VXValue::operator bool() const

@@ -116,8 +116,18 @@ public:
 
     /// An element. The array never grows here: give it its size first. A const value must be an Array; another one is
     /// made one when it is Invalid. Throws VXError when the array is too short, std::out_of_range for a negative index.
-    VXValue& operator[](int index);
-    const VXValue& operator[](int index) const;
+    VXValue& operator[](int index)
+    {
+        if (!hasElement(index))
+            failWithoutElement(index);
+        return (*m_value.array)[static_cast<std::size_t>(index)];
+    }
+    const VXValue& operator[](int index) const
+    {
+        if (!hasElement(index))
+            failWithoutElement(index);
+        return (*m_value.array)[static_cast<std::size_t>(index)];
+    }
 
     /// Whether an Array, String, Binary or Object is not empty, an Int or Float not zero, a Bool set. Throws for Invalid.
     operator bool() const; // NOLINT(google-explicit-constructor)
@@ -165,7 +175,14 @@ private:
     void copyTree(const VXValue& other);
     void becomeString() const;
     void assertSize(std::int64_t size) const;
-    VXValue& element(int index) const;
+    bool hasElement(int index) const noexcept
+    {
+        // A negative index becomes one that no array has.
+        return m_type == Type::Array && static_cast<std::size_t>(index) < m_value.array->size();
+    }
+    [[noreturn]] void failWithoutElement(int index);
+    [[noreturn]] void failWithoutElement(int index) const;
+    [[noreturn]] void failOutside(int index) const;
 
     // Mutable, because a Binary that is read as a string becomes one.
     mutable Type m_type = Type::Invalid;
