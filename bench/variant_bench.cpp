@@ -1,9 +1,7 @@
 // The variant and the records' wire form, beside the trees that a program would build instead: the same content as
 // nlohmann::json and as a QVariantList.
 #include "ratio_reporter.hpp"
-
-#include <zupackage/package_info.hpp>
-#include <zupackage/vxvalue.hpp>
+#include "sample_packages.hpp"
 
 #include <QtCore/QVariant>
 
@@ -12,47 +10,11 @@
 
 namespace {
 
+using bench::encoded;
+using bench::package;
 using nlohmann::json;
 using VX::VXValue;
 using zu::PackageInfo;
-
-zu::BehaviorInfo behavior(int number)
-{
-    zu::BehaviorInfo behavior;
-    behavior.setPath("behaviors/number-" + std::to_string(number));
-    behavior.setNature(zu::BehaviorInfo::natureInteractive());
-    behavior.setUserRequestable(true);
-    for (const char* lang : {"en", "fr", "ja"}) {
-        behavior.setName("The name of a behavior", lang);
-        behavior.setDescription("What the behavior does, in a sentence of usual length.", lang);
-        for (const char* text : {"first", "second", "third"}) {
-            behavior.addTag(text, lang);
-            behavior.addTriggerSentence(std::string("a sentence that starts it, the ") + text, lang);
-            behavior.addLoadingResponse(std::string("what it says meanwhile, the ") + text, lang);
-        }
-    }
-    behavior.addCondition("peopleNearby > 0 && !talking", "entertain");
-    behavior.addPermission(zu::BehaviorInfo::k_permCanStandUp);
-    return behavior;
-}
-
-PackageInfo package(int behaviors)
-{
-    PackageInfo package;
-    package.setUuid("org.example.package");
-    package.setVersion("1.0");
-    package.setName("Package", "en");
-    for (int i = 0; i < behaviors; ++i)
-        package.addBehavior(behavior(i));
-    return package;
-}
-
-VXValue encoded(PackageInfo& package)
-{
-    VXValue value;
-    package.toVXValue(value);
-    return value;
-}
 
 // The same encoding, from the same records, with another tree.
 
@@ -204,6 +166,8 @@ void decodePackage(benchmark::State& state)
 }
 BENCHMARK(decodePackage)->Name("decode")->Arg(1)->Arg(10)->Arg(100)->Arg(1000);
 
+// Growth has no target here: 1,000 behaviors leave the caches that 100 fit into, so that any tree grows by more than ten
+// times. `growth`, which counts instructions, has one.
 std::vector<bench::Target> targets()
 {
     return {{"encode/VXValue", "encode/json", 1.0},
@@ -211,11 +175,12 @@ std::vector<bench::Target> targets()
             {"deep copy and destroy/VXValue", "deep copy and destroy/QVariantList", 0},
             {"toVXValue/10", "toVXValue/1", 0},
             {"toVXValue/100", "toVXValue/10", 0},
-            {"toVXValue/1000", "toVXValue/100", 11.0},
+            {"toVXValue/1000", "toVXValue/100", 0},
             {"to json/1000", "to json/100", 0},
+            {"toVXValue/1000", "to json/1000", 1.0},
             {"decode/10", "decode/1", 0},
             {"decode/100", "decode/10", 0},
-            {"decode/1000", "decode/100", 11.0}};
+            {"decode/1000", "decode/100", 0}};
 }
 
 } // namespace
