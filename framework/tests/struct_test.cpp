@@ -131,6 +131,14 @@ TEST(Struct, RegisteringMakesItKnownAtOnce)
     EXPECT_FALSE((registerStruct<AccountRecord>("::bank::AccountRecord", {{"owner", &AccountRecord::owner}})));
 }
 
+TEST(Struct, CanBeMadeWithoutBeingRegistered)
+{
+    const auto type = makeStruct<std::pair<int, int>>("::sample::Range", {{"from", &std::pair<int, int>::first}});
+    EXPECT_EQ(type->className(), "::sample::Range");
+    EXPECT_EQ(findType("::sample::Range"), nullptr);
+    EXPECT_EQ(getType(type->info()), nullptr);
+}
+
 TEST(Struct, MembersOfBasesCountAndConstOnesAreForReadingOnly)
 {
     structtest::Derived object;

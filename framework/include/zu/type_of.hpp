@@ -43,8 +43,10 @@ private:
     bool m_beingMade = false; ///< guarded by the mutex of resolve()
 };
 
+/// Each library's own, whatever its default visibility: a plug-in that is unloaded takes the interfaces that it made
+/// along, and no other library must find them in its slots.
 template <class T>
-inline TypeSlot typeSlot;
+[[gnu::visibility("hidden")]] inline TypeSlot typeSlot;
 
 } // namespace detail
 

@@ -113,6 +113,14 @@ private:
 
 } // namespace detail
 
+/// Makes the interface of T as a struct and registers it nowhere: for a NativeType<T> of one's own. Throws
+/// std::invalid_argument when the class name or a member's name is empty or a member's name is there twice.
+template <class T>
+std::unique_ptr<const StructTypeInterface> makeStruct(std::string className, std::vector<Member<T>> members)
+{
+    return std::make_unique<detail::NativeStruct<T>>(Schema<T>{std::move(className), std::move(members)});
+}
+
 /// Registers T as a struct at once, under its identity and its class name; to be called before the first use of T:
 ///
 ///     registerStruct<Point>("::geometry::Point", {{"x", &Point::x}, {"y", &Point::y}});
@@ -123,8 +131,7 @@ private:
 template <class T>
 bool registerStruct(std::string className, std::vector<Member<T>> members)
 {
-    return detail::registerOwned(
-        std::make_unique<detail::NativeStruct<T>>(Schema<T>{std::move(className), std::move(members)}));
+    return detail::registerOwned(makeStruct<T>(std::move(className), std::move(members)));
 }
 
 template <class T>
