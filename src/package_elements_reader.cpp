@@ -1,14 +1,18 @@
 #include "package_elements_reader.hpp"
 
 #include "package_log.hpp"
-#include "xml/manifest_names.hpp"
-#include "xml/nodes.hpp"
-
-#include <QtXml/QDomNode>
 
 namespace zu {
 
 using namespace xml::names;
+
+void readSections(const QDomNode& root, const std::vector<Section>& sections)
+{
+    for (const QDomNode& child : xml::children(root))
+        for (const Section& section : sections)
+            if (child.isElement() && child.nodeName() == section.name)
+                section.read(child);
+}
 
 void readService(const QDomNode& element, PackageService& service)
 {
