@@ -21,6 +21,11 @@ class VXValue;
 
 namespace zu {
 
+// Of the host framework: how the small records below become known to its type system when they are first used with it.
+class TypeInterface;
+template <class T, class>
+struct NativeType;
+
 /// A robot hardware that a package needs. Versions are texts; nothing here compares or parses them.
 struct ZUPACKAGE_EXPORT RobotRequirement
 {
@@ -47,6 +52,28 @@ struct ZUPACKAGE_EXPORT PackageService
     std::map<std::string, std::string> envVars; ///< environment variables: name to value
 };
 
+template <>
+struct ZUPACKAGE_EXPORT NativeType<RobotRequirement, void>
+{
+    /// The one interface of the class, "::zu::RobotRequirement", for every library.
+    static const TypeInterface* make();
+};
+
+template <>
+struct ZUPACKAGE_EXPORT NativeType<MorvoRequirement, void>
+{
+    /// The one interface of the class, "::zu::MorvoRequirement", for every library.
+    static const TypeInterface* make();
+};
+
+template <>
+struct ZUPACKAGE_EXPORT NativeType<PackageService, void>
+{
+    /// The one interface of the class, "::zu::PackageService", for every library.
+    static const TypeInterface* make();
+};
+
+struct PackageInfo2;
 struct PackageInfoPrivate;
 
 /// The description of one application package, list-based and editable: what its manifest says.
@@ -58,6 +85,10 @@ struct PackageInfoPrivate;
 /// A package owns its content; a copy is deep and independent. There are no move operations: a moved-from package would
 /// be left without content. Not synchronised: one object may be read by several threads while none writes it (for
 /// behaviors, see BehaviorInfo).
+///
+/// The host framework's type system knows a package as the struct "::zu::PackageInfo", by whose members it can be read
+/// and written without the checks of the operations here; installOnlyAtStartup() is none of them. "::zu::BehaviorInfo",
+/// "::zu::DialogInfo" and "::zu::LanguageInfo" are known alike.
 ///
 /// Kept as existing callers know it: there is no operation that clears the descriptions, the languages or the
 /// executable files, and the two requirement getters hand out a mutable list from a const object.
@@ -71,6 +102,11 @@ public:
     /// send it. A value that is no Array of 18 to 20 elements gives an empty package; what is wrong inside one throws
     /// VX::VXError.
     PackageInfo(const VX::VXValue& value); // NOLINT(google-explicit-constructor): callers are used to it
+    /// The same package in the list-based model. The values in `package.elements` are converted where they are of other
+    /// types, and what is absent stays empty. descriptionLanguages() is empty, web content and unknown keys are left
+    /// out, and a language that is supported twice is there once. Throws ConversionError when one of the values does not
+    /// convert, an empty AnyValue included.
+    PackageInfo(const PackageInfo2& package); // NOLINT(google-explicit-constructor): callers are used to it
     ~PackageInfo();
 
     /// Copies the content of `other` into this object. References to its fields, maps and lists stay valid, those to

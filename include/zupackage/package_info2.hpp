@@ -1,8 +1,13 @@
 #pragma once
 
 #include <zupackage/export.hpp>
+#include <zupackage/package_info.hpp>
 
+#include <zu/any_value.hpp>
+
+#include <map>
 #include <string>
+#include <vector>
 
 namespace zu {
 
@@ -10,6 +15,88 @@ namespace zu {
 struct ZUPACKAGE_EXPORT WebInfo
 {
     std::string path; ///< inside the package
+};
+
+template <>
+struct ZUPACKAGE_EXPORT NativeType<WebInfo, void>
+{
+    /// The one interface of the class, "::zu::WebInfo", for every library.
+    static const TypeInterface* make();
+};
+
+/// The description of one application package as a plain value with open contents: what has no field of its own stands
+/// in maps of dynamic values, so that new kinds of content can be carried without a change of this class. loadManifest()
+/// makes one; PackageInfo has a constructor that turns it into the list-based model.
+///
+/// What the library keeps in `elements`, each value of exactly this type:
+///
+/// | key                  | type                                                                       |
+/// |----------------------|----------------------------------------------------------------------------|
+/// | "names"              | std::map<std::string, std::string>, by language                            |
+/// | "descriptions"       | std::map<std::string, std::string>, by language                            |
+/// | "services"           | std::vector<PackageService>                                                |
+/// | "executableFiles"    | std::vector<std::string>                                                   |
+/// | "requirements"       | std::pair<std::vector<RobotRequirement>, std::vector<MorvoRequirement>>    |
+/// | "supportedLanguages" | std::vector<std::string>                                                   |
+/// | "contents"           | std::map<std::string, AnyValue>: the contents map                          |
+///
+/// and in the contents map: "behaviors", std::vector<BehaviorInfo>; "dialogs", std::vector<DialogInfo>; "languages",
+/// std::vector<LanguageInfo>; "web", WebInfo. Any other key may stand beside these; the library leaves it alone.
+///
+/// Texts are UTF-8. A record owns its content: a copy is deep (values nested deeper than AnyValue copies throw
+/// std::length_error), a moved-from record has unspecified content and can be assigned. Not synchronised: one object may
+/// be read by several threads while none writes it (for behaviors, see BehaviorInfo); the accessors that are not const
+/// count as writing.
+struct ZUPACKAGE_EXPORT PackageInfo2
+{
+    /// With empty texts and without elements, not for installation at start-up only.
+    PackageInfo2();
+    PackageInfo2(const PackageInfo2& other);
+    PackageInfo2(PackageInfo2&& other) noexcept;
+    PackageInfo2& operator=(const PackageInfo2& other);
+    PackageInfo2& operator=(PackageInfo2&& other) noexcept;
+    ~PackageInfo2();
+
+    /// @name The contents, to read and to write
+    ///
+    /// References to what is stored; valid until it is replaced or removed. An absent entry is made first, empty, and
+    /// for an entry of the contents map that map, too. Nothing is converted: when what is stored is empty or of another
+    /// type, std::runtime_error "Type mismatch" is thrown and nothing stored is changed.
+    /// @{
+    std::map<std::string, AnyValue>& contents();
+    std::vector<BehaviorInfo>& behaviors();
+    std::vector<DialogInfo>& dialogs();
+    std::vector<LanguageInfo>& languages();
+
+    /// Unlike the others this makes none, for a package has web content or has not: where there is none it throws, and
+    /// leaves an empty AnyValue under "web", of which web() const then throws, too. Store a WebInfo there to give the
+    /// package web content.
+    WebInfo& web();
+    /// @}
+
+    /// @name The contents, to read
+    ///
+    /// Copies, converted where what is stored is of another type; of an absent entry an empty one. Nothing is changed.
+    /// Throws ConversionError when what is stored does not convert, an empty AnyValue included.
+    /// @{
+    std::map<std::string, AnyValue> contents() const;
+    std::vector<BehaviorInfo> behaviors() const;
+    std::vector<DialogInfo> dialogs() const;
+    std::vector<LanguageInfo> languages() const;
+    WebInfo web() const;
+    /// @}
+
+    std::string uuid; ///< identifier of the package
+    std::string version;
+    std::string author;
+    std::string channel; ///< distribution channel
+    std::string organization;
+    std::string date;
+    std::string typeVersion; ///< version of the manifest format
+    std::string installer;   ///< identifier of the package's installer; not part of the manifest document
+    bool installOnlyAtStartup = false;
+    std::string path; ///< where the package lies on disk; not part of the manifest document
+    std::map<std::string, AnyValue> elements;
 };
 
 } // namespace zu

@@ -94,8 +94,10 @@ const std::vector<Rule> k_rules = {
     {"framework/tests/", {Layer::FrameworkPublic, Layer::Tests, Layer::Other}},
     {"bench/", {Layer::FrameworkPublic, Layer::PackagePublic, Layer::Tests, Layer::Qt, Layer::Other}},
     {"include/zupackage/vxvalue.hpp", {Layer::PackagePublic, Layer::FrameworkPublic, Layer::Other}},
+    {"include/zupackage/package_info2.hpp", {Layer::PackagePublic, Layer::FrameworkPublic, Layer::Other}},
     {"include/zupackage/", {Layer::PackagePublic, Layer::Qt, Layer::Other}},
     // The places of the package library that may know the framework.
+    {"src/package_info2.", {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Other}},
     {"src/type_registration.", {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Other}},
     {"src/vxvalue_type.", {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Other}},
     {"src/vxvalueconverter.", {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Other}},
@@ -105,6 +107,7 @@ const std::vector<Rule> k_rules = {
     {"cli/", {Layer::PackagePublic, Layer::Cli, Layer::Qt, Layer::Cli11, Layer::Other}},
     {"examples/api/", {Layer::PackagePublic, Layer::FrameworkPublic, Layer::Other}},
     {"tests/consumer/", {Layer::PackagePublic, Layer::FrameworkPublic, Layer::Other}},
+    {"tests/loading/", {Layer::PackagePublic, Layer::FrameworkPublic, Layer::Tests, Layer::Other}},
     {"tests/cli/", {Layer::Tests, Layer::Qt, Layer::Other}},
     {"tests/",
      {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Tests, Layer::Qt, Layer::Other}},
