@@ -99,4 +99,21 @@ struct ZUPACKAGE_EXPORT PackageInfo2
     std::map<std::string, AnyValue> elements;
 };
 
+/// Reads a manifest file, whose name is `path` in UTF-8, with the limits of PackageInfo::loadFromManifestFile(); the root
+/// element may have any name, and unknown elements and attributes are ignored.
+///
+/// Nothing is required: a missing attribute is an empty text, a missing flag false. Of an environment variable that is
+/// there twice in one service the first value stays, with a warning to the category "zu.package.info".
+///
+/// `elements` holds a key for each section that the document has, empty or not; of a section that is there twice, the
+/// later one. The contents map has "behaviors", "dialogs" and "languages" only where there are any; the later of two
+/// web contents is kept. `installer` and `path` stay empty. Languages are kept as often as they are listed; the document's
+/// description languages are not read.
+///
+/// May run on several threads at once.
+///
+/// Throws std::runtime_error, and logs the same text as an error to the category "zu.package.info":
+/// "Could not open PATH for reading." or "Syntax error in PATH:LINE:COLUMN: MESSAGE", line and column counted from 1.
+ZUPACKAGE_EXPORT PackageInfo2 loadManifest(const std::string& path);
+
 } // namespace zu

@@ -19,6 +19,7 @@ inline const QString k_executableFiles = QStringLiteral("executableFiles");
 inline const QString k_behaviorContent = QStringLiteral("behaviorContent");
 inline const QString k_dialogContent = QStringLiteral("dialogContent");
 inline const QString k_languageContent = QStringLiteral("languageContent");
+inline const QString k_webContent = QStringLiteral("webContent");
 inline const QString k_description = QStringLiteral("description");
 inline const QString k_robotRequirement = QStringLiteral("robotRequirement");
 inline const QString k_morvoRequirement = QStringLiteral("morvoRequirement");
