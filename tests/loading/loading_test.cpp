@@ -31,7 +31,7 @@ const FoundWhileLoading& loadUser()
         reinterpret_cast<FoundWhileLoadingFunction>(dlsym(load(PACKAGE_USER_LIBRARY), k_foundWhileLoading));
     if (!function)
         throw std::runtime_error(dlerror());
-    return function();
+    return *function();
 }
 
 } // namespace

@@ -28,4 +28,4 @@ const FoundWhileLoading g_found = look();
 
 } // namespace
 
-extern "C" __attribute__((visibility("default"))) const FoundWhileLoading& foundWhileLoading() { return g_found; }
+extern "C" __attribute__((visibility("default"))) const FoundWhileLoading* foundWhileLoading() { return &g_found; }

@@ -15,4 +15,4 @@ struct FoundWhileLoading
 
 /// The name of the function that gives it.
 inline constexpr const char* k_foundWhileLoading = "foundWhileLoading";
-using FoundWhileLoadingFunction = const FoundWhileLoading& (*)();
+using FoundWhileLoadingFunction = const FoundWhileLoading* (*)();
