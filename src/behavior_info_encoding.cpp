@@ -22,31 +22,34 @@ constexpr char k_conditions[] = "conditions";
 constexpr char k_permissions[] = "permissions";
 constexpr char k_userRequestable[] = "userRequestable";
 
-void decodeField(const std::string& key, const VXValue& value, BehaviorInfoPrivate& record)
+template <auto field>
+void decodeInto(const VXValue& value, BehaviorInfoPrivate& record)
 {
-    if (key == k_path) {
-        decode(value, record.path);
-    } else if (key == k_userRequestable) {
-        decode(value, record.userRequestable);
-    } else if (key == k_nature) {
-        decode(value, record.nature);
-    } else if (key == k_names) {
-        decode(value, record.langToName);
-    } else if (key == k_descriptions) {
-        decode(value, record.langToDesc);
-    } else if (key == k_tags) {
-        decode(value, record.langToTags);
-    } else if (key == k_triggerSentences) {
-        decode(value, record.langToTriggerSentences);
-    } else if (key == k_loadingResponses) {
-        decode(value, record.langToLoadingResponses);
-    } else if (key == k_conditions) {
-        decode(value, record.purposeToCondition);
-    } else if (key == k_permissions) {
-        decode(value, record.permissions);
-        record.permissions.unique();
-    }
+    decode(value, record.*field);
 }
+
+void decodePermissions(const VXValue& value, BehaviorInfoPrivate& record)
+{
+    decode(value, record.permissions);
+    record.permissions.unique();
+}
+
+constexpr struct
+{
+    const char* key;
+    void (*decode)(const VXValue& value, BehaviorInfoPrivate& record);
+} k_fields[] = {
+    {k_path, &decodeInto<&BehaviorInfoPrivate::path>},
+    {k_userRequestable, &decodeInto<&BehaviorInfoPrivate::userRequestable>},
+    {k_nature, &decodeInto<&BehaviorInfoPrivate::nature>},
+    {k_names, &decodeInto<&BehaviorInfoPrivate::langToName>},
+    {k_descriptions, &decodeInto<&BehaviorInfoPrivate::langToDesc>},
+    {k_tags, &decodeInto<&BehaviorInfoPrivate::langToTags>},
+    {k_triggerSentences, &decodeInto<&BehaviorInfoPrivate::langToTriggerSentences>},
+    {k_loadingResponses, &decodeInto<&BehaviorInfoPrivate::langToLoadingResponses>},
+    {k_conditions, &decodeInto<&BehaviorInfoPrivate::purposeToCondition>},
+    {k_permissions, &decodePermissions},
+};
 
 } // namespace
 
@@ -57,7 +60,9 @@ BehaviorInfo::BehaviorInfo(const VXValue& value) : BehaviorInfo()
     for (int i = 0; i < value.size(); ++i) {
         std::string key;
         decode(value[i][0], key);
-        decodeField(key, pairValue(value, i), *m_p);
+        for (const auto& field : k_fields)
+            if (key == field.key)
+                field.decode(pairValue(value, i), *m_p);
     }
 }
 

@@ -1,10 +1,7 @@
 #include <zupackage/vxvalue.hpp>
 
 #include <cstdio>
-#include <cstring>
-#include <limits>
 #include <memory>
-#include <sstream>
 #include <utility>
 
 namespace VX {
@@ -67,8 +64,6 @@ VXError::VXError(const std::string& module, const std::string& method, const std
 
 VXError::~VXError() = default;
 
-VXValue::VXValue(bool value) noexcept : m_type(Type::Bool) { m_value.boolean = value; }
-
 VXValue::VXValue(int value) noexcept : m_type(Type::Int) { m_value.integer = value; }
 
 VXValue::VXValue(float value) noexcept : m_type(Type::Float) { m_value.real = value; }
@@ -86,6 +81,14 @@ VXValue::VXValue(const void* data, std::size_t size) : m_type(Type::Binary)
 {
     const auto* first = static_cast<const unsigned char*>(data);
     m_value.bytes = new TVXValueBytes(first, first + size);
+}
+
+VXValue VXValue::fromElements(std::vector<VXValue> elements)
+{
+    VXValue value;
+    value.m_value.array = new Array(std::move(elements));
+    value.m_type = Type::Array;
+    return value;
 }
 
 // Delegating, so that what was copied goes when the rest cannot be.
@@ -125,19 +128,15 @@ std::string VXValue::TypeToString(Type type)
 
 void VXValue::resizeArray(int size)
 {
-    if (size < 0)
+    if (size < 0 && (m_type == Type::Invalid || m_type == Type::Array))
         throw std::length_error("a VXValue cannot have " + std::to_string(size) + " elements");
-    if (m_type == Type::Invalid) {
-        // Without the room of xAssertCompatibleType(): who sizes an array knows what goes into it, and most are pairs.
-        m_value.array = new Array(static_cast<std::size_t>(size));
-        m_type = Type::Array;
-        return;
-    }
     xAssertCompatibleType(Type::Array);
     m_value.array->resize(static_cast<std::size_t>(size));
 }
 
-int VXValue::size() const
+int VXValue::size() const { return static_cast<int>(count()); }
+
+std::size_t VXValue::count() const
 {
     switch (m_type) {
     case Type::Invalid:
@@ -147,14 +146,14 @@ int VXValue::size() const
         return 0;
     case Type::Array:
         assertThat(m_value.array != nullptr, __LINE__);
-        return static_cast<int>(m_value.array->size());
+        return m_value.array->size();
     case Type::String:
         assertThat(m_value.string != nullptr, __LINE__);
-        return static_cast<int>(m_value.string->size());
+        return m_value.string->size();
     case Type::Object:
     case Type::Binary:
         assertThat(m_value.bytes != nullptr, __LINE__);
-        return static_cast<int>(m_value.bytes->size());
+        return m_value.bytes->size();
     }
     return 0;
 }
@@ -192,7 +191,7 @@ VXValue::operator bool() const
     case Type::String:
     case Type::Object:
     case Type::Binary:
-        return size() != 0;
+        return count() != 0;
     }
     fail("const bool() const", "Cannot cast to bool an VXValue of invalid type.", __LINE__);
 }

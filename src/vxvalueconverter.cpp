@@ -37,9 +37,10 @@ public:
 
     void visitMap(const zu::AnyReference& map) override
     {
-        result.resizeArray(0);
+        std::vector<VXValue> entries;
         for (const zu::AnyReference entry : map)
-            append(pairOf(part(entry._element(0)), part(entry._element(1))));
+            entries.push_back(pairOf(part(entry._element(0)), part(entry._element(1))));
+        result = VXValue::fromElements(std::move(entries));
     }
 
     void visitObject(const zu::AnyReference& /*object*/) override { refuseObject(); }
@@ -56,16 +57,20 @@ public:
     {
         if (!names.empty() && names.size() != values.size())
             refuse("Mismatch struct size. size(variableName) != size(value)", __LINE__);
-        result.resizeArray(0);
+        std::vector<VXValue> members;
+        members.reserve(values.size());
         for (std::size_t i = 0; i < values.size(); ++i)
-            append(names.empty() ? part(values[i]) : pairOf(VXValue(names[i]), part(values[i])));
+            members.push_back(names.empty() ? part(values[i]) : pairOf(VXValue(names[i]), part(values[i])));
+        result = VXValue::fromElements(std::move(members));
     }
 
     void visitDynamic(const zu::AnyReference& dynamic) override
     {
         if (dynamic.holds<zu::Object<zu::Empty>>())
             refuseObject();
-        result = part(dynamic.content());
+        // Not counted as a level, for every element of a dynamic list is one; unless dynamics hold each other.
+        const zu::AnyReference content = dynamic.content();
+        result = convertedFrom(content, content.kind() == zu::TypeKind::Dynamic ? m_depth + 1 : m_depth);
     }
 
     void visitRaw(std::string_view bytes) override { result = VXValue(bytes.data(), bytes.size()); }
@@ -76,29 +81,23 @@ public:
 private:
     [[noreturn]] static void refuseObject() { refuse("object type not handled", __LINE__); }
 
-    static VXValue pairOf(VXValue key, VXValue value)
-    {
-        VXValue pair;
-        pair.resizeArray(2);
-        pair[0] = std::move(key);
-        pair[1] = std::move(value);
-        return pair;
-    }
-
     VXValue part(const zu::AnyReferenceBase& source) const { return convertedFrom(source, m_depth + 1); }
 
-    void append(VXValue element)
+    static VXValue pairOf(VXValue key, VXValue value)
     {
-        const int size = result.size();
-        result.resizeArray(size + 1);
-        result[size] = std::move(element);
+        std::vector<VXValue> pair;
+        pair.reserve(2);
+        pair.push_back(std::move(key));
+        pair.push_back(std::move(value));
+        return VXValue::fromElements(std::move(pair));
     }
 
     void convertElements(const zu::AnyReference& list)
     {
-        result.resizeArray(0);
+        std::vector<VXValue> elements;
         for (const zu::AnyReference element : list)
-            append(part(element));
+            elements.push_back(part(element));
+        result = VXValue::fromElements(std::move(elements));
     }
 
     const int m_depth;

@@ -2,10 +2,12 @@
 
 #include <zupackage/vxvalue.hpp>
 
+#include <iterator>
 #include <list>
 #include <map>
 #include <string>
 #include <utility>
+#include <vector>
 
 /// The encodings that the records' wire forms are made of. Other programs read them by position, so that neither order nor
 /// shape may change.
@@ -15,6 +17,7 @@ using VX::VXValue;
 
 VXValue encoded(const std::string& text);
 VXValue encoded(bool flag);
+VXValue encoded(const char* text) = delete; // which would be the flag
 /// One String for each text.
 VXValue encoded(const std::list<std::string>& texts);
 
@@ -22,11 +25,7 @@ VXValue encoded(const std::list<std::string>& texts);
 template <std::size_t count>
 VXValue arrayOf(VXValue (&&values)[count])
 {
-    VXValue array;
-    array.resizeArray(static_cast<int>(count));
-    for (std::size_t i = 0; i < count; ++i)
-        array[static_cast<int>(i)] = std::move(values[i]);
-    return array;
+    return VXValue::fromElements({std::make_move_iterator(values), std::make_move_iterator(values + count)});
 }
 
 /// A pair: an Array of the key and the value.
@@ -36,12 +35,11 @@ inline VXValue pairOf(VXValue key, VXValue value) { return arrayOf({std::move(ke
 template <class List, class Encode>
 VXValue arrayFrom(const List& list, Encode encode)
 {
-    VXValue array;
-    array.resizeArray(static_cast<int>(list.size()));
-    int index = 0;
+    std::vector<VXValue> elements;
+    elements.reserve(list.size());
     for (const auto& element : list)
-        array[index++] = encode(element);
-    return array;
+        elements.push_back(encode(element));
+    return VXValue::fromElements(std::move(elements));
 }
 
 /// An Array of pairs in key order.

@@ -12,6 +12,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -40,8 +41,11 @@ public:
 /// a moved-from value is Invalid. Copying, destroying and dumping take any depth.
 ///
 /// Typed access is guarded by assertions, which throw VXError and leave the value as it was. Two of their rules are
-/// lenient, and callers of the old layer rely on that: nothing fails that asks for an Int, and a Float passes for every
-/// type (see xAssertType()).
+/// lenient, and callers of the old layer rely on that: xAssertType() fails for nobody who asks for an Int and for no Float.
+/// Whatever then wants to use a Float as something else throws all the same.
+///
+/// An Object that xAssertCompatibleType() makes has no bytes at all: size(), the conversion to bool, and copying it or what
+/// it is in throw VXError.
 ///
 /// Not synchronised. Reading a Binary as a string changes the value even through a const reference, so that even readers
 /// of one value must take turns.
@@ -64,16 +68,22 @@ public:
     /// Invalid.
     VXValue() noexcept {} // not defaulted: a const one needs no initialiser
     // Not explicit, as callers are used to.
-    VXValue(bool value) noexcept;         // NOLINT(google-explicit-constructor)
+    // A template, so that nothing that merely converts to bool, as any pointer does, becomes a Bool.
+    template <class Flag, class = std::enable_if_t<std::is_same_v<Flag, bool>>>
+    VXValue(Flag value) noexcept : m_type(Type::Bool) // NOLINT(google-explicit-constructor)
+    {
+        m_value.boolean = value;
+    }
     VXValue(int value) noexcept;          // NOLINT(google-explicit-constructor)
     VXValue(float value) noexcept;        // NOLINT(google-explicit-constructor)
     VXValue(const TVXValueString& value); // NOLINT(google-explicit-constructor)
     /// A String of the characters up to the terminating zero. A null pointer throws.
     VXValue(const char* value); // NOLINT(google-explicit-constructor)
-    /// No other pointer becomes a Bool by accident.
-    VXValue(const void*) = delete;
     /// A Binary of a copy of the `size` bytes at `data`.
     VXValue(const void* data, std::size_t size);
+
+    /// An Array of the elements.
+    static VXValue fromElements(std::vector<VXValue> elements);
 
     VXValue(const VXValue& other);
     VXValue(VXValue&& other) noexcept
@@ -81,6 +91,7 @@ public:
     {
     }
     VXValue& operator=(const VXValue& other);
+    /// A part of this may be moved into it, but not this into a part of itself.
     VXValue& operator=(VXValue&& other) noexcept
     {
         // By way of a third, because `other` may be a part of this.
@@ -92,7 +103,11 @@ public:
     /// Makes this a String of the characters up to the terminating zero. A null pointer throws.
     VXValue& operator=(const char* value);
     // So that a literal 0 is the number, not a null pointer.
-    VXValue& operator=(bool value) noexcept { return *this = VXValue(value); }
+    template <class Flag, class = std::enable_if_t<std::is_same_v<Flag, bool>>>
+    VXValue& operator=(Flag value) noexcept
+    {
+        return *this = VXValue(value);
+    }
     VXValue& operator=(int value) noexcept { return *this = VXValue(value); }
     VXValue& operator=(float value) noexcept { return *this = VXValue(value); }
     ~VXValue()
@@ -107,15 +122,16 @@ public:
     /// is none.
     static std::string TypeToString(Type type);
 
-    /// Makes an Invalid value an empty Array; then gives the Array `size` elements, new ones Invalid. Throws for values of
-    /// other types, and std::length_error for a negative size.
+    /// Makes an Invalid value an empty Array with room for 32 elements; then gives the Array `size` elements, new ones
+    /// Invalid. Throws for values of other types, and std::length_error for a negative size.
     void resizeArray(int size);
 
     /// The elements of an Array, the characters of a String, the bytes of a Binary or Object; 0 for the other types.
     int size() const;
 
-    /// An element. The array never grows here: give it its size first. A const value must be an Array; another one is
-    /// made one when it is Invalid. Throws VXError when the array is too short, std::out_of_range for a negative index.
+    /// An element. The array never grows here: give it its size first. Throws VXError for a value of another type and when
+    /// the array is too short, std::out_of_range for a negative index. Unless it is const, an Invalid value first becomes
+    /// an empty Array, which is too short, and stays one.
     VXValue& operator[](int index)
     {
         if (!hasElement(index))
@@ -139,10 +155,12 @@ public:
     /// old layer know the zero.
     operator const TVXValueString&() const; // NOLINT(google-explicit-constructor)
 
-    /// Throws when the value is of another type, unless Int is asked for or the value is a Float.
+    /// Throws when the value is of another type, unless Int is asked for or the value is a Float; and for a number that is
+    /// no type.
     void xAssertType(Type type) const;
 
-    /// Makes an Invalid value an empty one of that type; throws when it is of another type.
+    /// Makes an Invalid value an empty one of that type, with room for 32 elements, 64 characters or 1,024 bytes. Throws
+    /// when it is of another type, and for a number that is no type.
     void xAssertCompatibleType(Type type);
 
     /// Throws when the value is no Array or has less than `size` elements.
@@ -175,6 +193,7 @@ private:
     void copyTree(const VXValue& other);
     void becomeString() const;
     void assertSize(std::int64_t size) const;
+    std::size_t count() const;
     bool hasElement(int index) const noexcept
     {
         // A negative index becomes one that no array has.
@@ -192,7 +211,8 @@ private:
 static_assert(sizeof(VXValue) == 16, "the type and the payload, nothing else");
 
 /// How the host framework's type system sees a VXValue: as a dynamic, whose content is what the value holds. Registered when
-/// the library is loaded, so that any value of the framework converts to a VXValue, and a VXValue to any of its types.
+/// the library is loaded, so that values of the framework convert to a VXValue as told at set(), and a VXValue to whatever
+/// its content converts to.
 class ZUPACKAGE_EXPORT VXValueType : public zu::Native<VXValue, zu::DynamicTypeInterface>
 {
 public:
@@ -218,8 +238,9 @@ public:
     /// | Function, Signal, Property        | Invalid, with a warning to "zutype.typedispatcher"                       |
     /// | Unknown, Object, Pointer, Iterator, Optional | refused                                                       |
     ///
-    /// An empty reference becomes Invalid, with a warning to the same category. What is refused, and what is nested deeper
-    /// than zu::k_maxNesting, throws VXError; `value` is then as it was.
+    /// An empty reference becomes Invalid, with a warning to the same category; what is of a kind that is not in the table
+    /// becomes Invalid silently. Refused are also a tuple with another number of names than of members, and containers
+    /// nested deeper than zu::k_maxNesting levels. What is refused throws VXError; `value` is then as it was.
     void set(void* value, const zu::AnyReference& source) const override;
 };
 
