@@ -157,6 +157,7 @@ TEST(BehaviorDecoding, IgnoresOtherKeys)
         SCOPED_TRACE(key);
         EXPECT_EQ(dumpOf(decoded(key, textArray({"x"}))), dumpOf(BehaviorInfo()));
         EXPECT_EQ(dumpOf(decoded(key, {})), dumpOf(BehaviorInfo()));
+        EXPECT_EQ(dumpOf(BehaviorInfo(array({array({key})}))), dumpOf(BehaviorInfo())) << "a pair without a value";
     }
 }
 

@@ -103,6 +103,19 @@ TEST(VXValueAssertion, OfACompatibleTypeMakesRoom)
     VXValue text;
     text.xAssertCompatibleType(Type::String);
     EXPECT_GE(static_cast<const std::string&>(text).capacity(), 64U);
+    VXValue binary;
+    binary.xAssertCompatibleType(Type::Binary);
+    const zu::AnyReference bytes = zu::AnyReference::from(binary).content();
+    EXPECT_GE(static_cast<const TVXValueBytes*>(bytes.address())->capacity(), 1024U);
+}
+
+TEST(VXValueAssertion, ResizingAnInvalidValueMakesTheRoomToo)
+{
+    VXValue list;
+    list.resizeArray(1);
+    const VXValue* first = &list[0];
+    list.resizeArray(32);
+    EXPECT_EQ(&list[0], first);
 }
 
 TEST(VXValueAssertion, OfANumberThatIsNoTypeNamesIt)

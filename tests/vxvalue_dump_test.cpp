@@ -126,6 +126,4 @@ TEST(VXValueDump, AtVerbosityThreeFramesAnArrayAndItsElements)
                   "\n</Vector>\n</VxValue>\n\n</elem>" + "\n</Vector>\n</VxValue>\n");
 }
 
-// What the assertions say holds a dump; so they stand here.
-
 } // namespace VX

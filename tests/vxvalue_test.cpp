@@ -31,6 +31,10 @@ static_assert(!std::is_constructible_v<VXValue, double> && !std::is_constructibl
               "a number that no type holds is not narrowed in passing");
 static_assert(!std::is_constructible_v<VXValue, int*> && !std::is_constructible_v<VXValue, void*>,
               "no Bool by accident");
+static_assert(!std::is_constructible_v<VXValue, void (*)()> && !std::is_constructible_v<VXValue, int VXError::*>);
+static_assert(!std::is_assignable_v<VXValue&, int*> && !std::is_assignable_v<VXValue&, void*> &&
+              !std::is_assignable_v<VXValue&, void (*)()>);
+static_assert(std::is_nothrow_constructible_v<VXValue, const bool&> && std::is_nothrow_assignable_v<VXValue&, bool>);
 static_assert(std::is_base_of_v<std::runtime_error, VXError>);
 static_assert(std::is_nothrow_copy_constructible_v<VXError> && std::is_nothrow_copy_assignable_v<VXError>);
 
@@ -149,6 +153,11 @@ TEST(VXValue, ANegativeNumberOfElementsIsRefused)
 {
     VXValue value;
     EXPECT_THROW(value.resizeArray(-1), std::length_error);
+    EXPECT_EQ(value.type(), Type::Invalid);
+    VXValue text = "x";
+    EXPECT_EQ(errorOf([&] { text.resizeArray(-1); }),
+              errorText("xAssertCompatibleType: type error",
+                        "Expected a Array but received a String (vxvalue contents: \"x\" )"));
     EXPECT_EQ(value.type(), Type::Invalid);
 }
 

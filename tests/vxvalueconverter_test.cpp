@@ -6,6 +6,7 @@
 #include <zu/conversion.hpp>
 #include <zu/native/native_types.hpp>
 
+#include <boost/make_shared.hpp>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -56,6 +57,22 @@ private:
     const std::vector<std::string> m_names = {"a", "b"};
 };
 
+/// A type of a kind that the framework may get one day.
+template <int number>
+class LaterKind : public zu::TypeInterface
+{
+protected:
+    LaterKind(const zu::TypeInfo& info, std::size_t wordSize)
+        : zu::TypeInterface(info, static_cast<zu::TypeKind>(number), wordSize)
+    {
+    }
+};
+
+template <int number>
+class LaterType final : public zu::Native<Stranger, LaterKind<number>>
+{
+};
+
 namespace {
 
 using zu::test::CapturedLog;
@@ -91,6 +108,13 @@ std::string refusal(const T& value)
 }
 
 std::string conversionError(const std::string& message) { return "\tVXValue::conversion\n\t" + message; }
+
+void expectDispatcherWarning(const LogLine& line, const std::string& message)
+{
+    EXPECT_EQ(line.level, zu::log::Level::Warning);
+    EXPECT_EQ(line.category, "zutype.typedispatcher");
+    EXPECT_EQ(line.message, message);
+}
 
 } // namespace
 
@@ -133,8 +157,8 @@ TEST(VXConversion, ListsAndVariableArgumentsBecomeArrays)
 {
     EXPECT_EQ(shown(std::vector<int>{1, 2}), "[1, 2]");
     EXPECT_EQ(shown(std::list<std::vector<int>>{{1}, {}, {2, 3}}), "[[1], [], [2, 3]]");
-    zu::VarArguments<std::string> arguments;
-    EXPECT_EQ(shown(arguments), "[]");
+    EXPECT_EQ(shown(zu::VarArguments<std::string>()), "[]");
+    EXPECT_EQ(shown(zu::VarArguments<std::string>({"a", "b"})), "[\"a\", \"b\"]");
     EXPECT_EQ(converted(std::vector<std::string>()).type(), VXValue::Type::Array);
 }
 
@@ -185,12 +209,15 @@ TEST(VXConversion, VoidBecomesInvalid)
 TEST(VXConversion, ObjectsPointersIteratorsOptionalsAndUnknownTypesAreRefused)
 {
     int number = 1;
+    Motor motor;
     std::vector<int> list{1};
     EXPECT_EQ(refusal(Motor()), conversionError("object type not handled"));
     EXPECT_EQ(refusal(std::make_shared<Motor>()), conversionError("object type not handled"));
     EXPECT_EQ(refusal(std::shared_ptr<Motor>()), conversionError("pointer type not handled"));
     EXPECT_EQ(refusal(std::make_shared<int>(1)), conversionError("pointer type not handled"));
     EXPECT_EQ(refusal(&number), conversionError("pointer type not handled"));
+    EXPECT_EQ(refusal(&motor), conversionError("pointer type not handled"));
+    EXPECT_EQ(refusal(boost::make_shared<Motor>()), conversionError("object type not handled"));
     EXPECT_EQ(refusal(zu::Object<zu::Empty>(std::make_shared<Motor>())), conversionError("object type not handled"));
     EXPECT_EQ(refusal(zu::Object<zu::Empty>()), conversionError("object type not handled"));
     EXPECT_EQ(refusal(zu::AnyReference::from(list).begin()), conversionError("iterator type not handled"));
@@ -211,11 +238,8 @@ TEST(VXConversion, FunctionsSignalsAndPropertiesBecomeInvalidWithAWarning)
     EXPECT_EQ(converted(zu::Signal<int>()).type(), VXValue::Type::Invalid);
     EXPECT_EQ(converted(zu::Property<int>()).type(), VXValue::Type::Invalid);
     ASSERT_EQ(log.lines().size(), 3u);
-    for (const LogLine& line : log.lines()) {
-        EXPECT_EQ(line.level, zu::log::Level::Warning);
-        EXPECT_EQ(line.category, "zutype.typedispatcher");
-        EXPECT_EQ(line.message, "Signal and Property not handled");
-    }
+    for (const LogLine& line : log.lines())
+        expectDispatcherWarning(line, "Signal and Property not handled");
 }
 
 TEST(VXConversion, AnElementWithoutATypeStaysAsAnInvalidOneWithAWarning)
@@ -225,8 +249,32 @@ TEST(VXConversion, AnElementWithoutATypeStaysAsAnInvalidOneWithAWarning)
     ASSERT_EQ(value.size(), 2);
     EXPECT_EQ(value[0].type(), VXValue::Type::Invalid);
     ASSERT_EQ(log.lines().size(), 1u);
-    EXPECT_EQ(log.lines()[0].category, "zutype.typedispatcher");
-    EXPECT_EQ(log.lines()[0].message, "NULL type");
+    expectDispatcherWarning(log.lines()[0], "NULL type");
+}
+
+TEST(VXConversion, AReferenceWithoutATypeBecomesInvalidWithAWarning)
+{
+    const CapturedLog log;
+    VXValue value = 42;
+    zu::AnyReference::from(value).set(zu::AnyReference());
+    EXPECT_EQ(value.type(), VXValue::Type::Invalid);
+    ASSERT_EQ(log.lines().size(), 1u);
+    expectDispatcherWarning(log.lines()[0], "NULL type");
+}
+
+TEST(VXConversion, AKindThatIsInNoTableBecomesInvalidSilently)
+{
+    const CapturedLog log;
+    Stranger stranger;
+    const LaterType<12> unused;
+    const LaterType<19> next;
+    const LaterType<99> distant;
+    for (const zu::TypeInterface* type : std::initializer_list<const zu::TypeInterface*>{&unused, &next, &distant}) {
+        VXValue value = 42;
+        zu::AnyReference::from(value).set(zu::AnyReference(type, &stranger));
+        EXPECT_EQ(value.type(), VXValue::Type::Invalid) << int(type->kind());
+    }
+    EXPECT_TRUE(log.lines().empty());
 }
 
 TEST(VXConversion, ValuesNestedTooDeepAreRefused)
@@ -238,7 +286,20 @@ TEST(VXConversion, ValuesNestedTooDeepAreRefused)
         return value;
     };
     EXPECT_EQ(shown(nested(10)), "[[[[[[[[[[1]]]]]]]]]]");
-    EXPECT_EQ(refusal(nested(100)), conversionError("value nested deeper than 64 levels"));
+    EXPECT_EQ(shown(nested(64)), std::string(64, '[') + "1" + std::string(64, ']'));
+    EXPECT_EQ(refusal(nested(65)), conversionError("value nested deeper than 64 levels"));
+}
+
+TEST(VXConversion, DynamicsThatHoldDynamicsAreLevels)
+{
+    const auto nested = [](int levels) {
+        zu::AnyValue value = zu::AnyValue::from(1);
+        for (int i = 0; i < levels; ++i)
+            value = zu::AnyValue::from(zu::AnyValue(value));
+        return value;
+    };
+    EXPECT_EQ(shown(nested(64)), "1");
+    EXPECT_EQ(refusal(nested(65)), conversionError("value nested deeper than 64 levels"));
 }
 
 } // namespace VX

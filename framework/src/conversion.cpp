@@ -71,17 +71,18 @@ bool Conversion::attempt(const AnyReferenceBase& source, const AnyReference& tar
 {
     if (m_depth > k_maxNesting)
         return fail([] { return "the value is nested deeper than " + std::to_string(k_maxNesting) + " levels"; });
-    if (source.isEmpty())
+    const bool isToDynamic = target.kind() == TypeKind::Dynamic;
+    if (source.isEmpty() && !isToDynamic)
         return fail([] { return "there is no value"; });
     if (target.isEmpty())
         return fail([] { return "there is no target"; });
     if (target.isReadOnly())
         return fail([] { return "the target is for reading only"; });
     const TypeInterface& type = *target.type();
-    if (source.type() == &type || source.type()->info() == type.info())
+    if (!source.isEmpty() && (source.type() == &type || source.type()->info() == type.info()))
         return type.assign(target.writableAddress(), source.address()) ||
                fail([&type] { return type.name() + " cannot be assigned"; });
-    if (type.kind() == TypeKind::Dynamic) {
+    if (isToDynamic) {
         static_cast<const DynamicTypeInterface&>(type).set(target.writableAddress(), AnyReference(source));
         return true;
     }

@@ -192,6 +192,14 @@ TEST(Conversion, DynamicsGiveTheirContentAndTakeWhatTheyCan)
     EXPECT_EQ(failureOf<int>(AnyValue()), "Cannot convert zu::AnyValue to int: there is no value");
 }
 
+TEST(Conversion, NothingIsForADynamicToJudge)
+{
+    AnyValue value = AnyValue::from(1);
+    AnyReference::from(value).set(AnyReference());
+    EXPECT_TRUE(value.isEmpty());
+    EXPECT_TRUE(AnyReference().to<AnyValue>().isEmpty());
+}
+
 TEST(Conversion, WhatADynamicThrowsComesOutAndItKeepsItsValue)
 {
     Cell cell{5};

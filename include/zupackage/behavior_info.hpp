@@ -43,7 +43,8 @@ public:
     BehaviorInfo(const BehaviorInfo& other);
     /// Decodes what toVXValue() encodes: an Array of pairs, found by their keys, in any order; pairs of other keys are
     /// ignored. A value that is no Array gives an empty behavior; what is wrong inside one throws VX::VXError. Of
-    /// permissions that follow an equal one, one is kept; they are not compared with the supported ones.
+    /// permissions that follow an equal one, one is kept; they are not compared with the supported ones. A Binary in
+    /// `value` that is read as a text becomes a String, see VX::VXValue.
     BehaviorInfo(const VX::VXValue& value); // NOLINT(google-explicit-constructor): callers are used to it
     ~BehaviorInfo();
 

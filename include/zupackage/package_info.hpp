@@ -100,7 +100,7 @@ public:
     PackageInfo(const PackageInfo& other);
     /// Decodes what toVXValue() encodes, by position. The last pair, or the last two, may be missing, as older programs
     /// send it. A value that is no Array of 18 to 20 elements gives an empty package; what is wrong inside one throws
-    /// VX::VXError.
+    /// VX::VXError. A Binary in `value` that is read as a text becomes a String, see VX::VXValue.
     PackageInfo(const VX::VXValue& value); // NOLINT(google-explicit-constructor): callers are used to it
     /// The same package in the list-based model. The values in `package.elements` are converted where they are of other
     /// types, and what is absent stays empty. descriptionLanguages() is empty, web content and unknown keys are left

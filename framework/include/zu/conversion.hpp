@@ -12,7 +12,7 @@
 /// | from                         | to                           | how                                               |
 /// |------------------------------|------------------------------|---------------------------------------------------|
 /// | any type                     | the same type                | copied, whatever the kind                         |
-/// | anything                     | Dynamic                      | the target's own `set` (an AnyValue takes a copy) |
+/// | anything, nothing included   | Dynamic                      | the target's own `set` (an AnyValue takes a copy) |
 /// | Dynamic                      | anything                     | its content is converted                          |
 /// | Int, Float                   | Int, Float                   | when the target's range has the number; see below |
 /// | String                       | String                       | the bytes                                         |
