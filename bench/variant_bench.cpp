@@ -16,7 +16,8 @@ using nlohmann::json;
 using VX::VXValue;
 using zu::PackageInfo;
 
-// The same encoding, from the same records, with another tree.
+// What the encoding says of these packages, from the same records, in another tree; without the pairs that are empty
+// here, which leaves the variant with a little more to do.
 
 json pairOf(const char* key, json value) { return json::array({key, std::move(value)}); }
 

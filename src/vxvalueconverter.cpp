@@ -1,5 +1,7 @@
 #include "vxvalueconverter.hpp"
 
+#include "wire_form.hpp"
+
 #include <zu/conversion.hpp>
 #include <zu/dispatch.hpp>
 #include <zu/native/object.hpp>
@@ -12,6 +14,8 @@ namespace {
 {
     throw VXError("VXValue", "conversion", message, "src/vxvalueconverter.cpp", line);
 }
+
+using zu::wire_form::pairOf;
 
 class Converter : public zu::TypeVisitor
 {
@@ -82,15 +86,6 @@ private:
     [[noreturn]] static void refuseObject() { refuse("object type not handled", __LINE__); }
 
     VXValue part(const zu::AnyReferenceBase& source) const { return convertedFrom(source, m_depth + 1); }
-
-    static VXValue pairOf(VXValue key, VXValue value)
-    {
-        std::vector<VXValue> pair;
-        pair.reserve(2);
-        pair.push_back(std::move(key));
-        pair.push_back(std::move(value));
-        return VXValue::fromElements(std::move(pair));
-    }
 
     void convertElements(const zu::AnyReference& list)
     {

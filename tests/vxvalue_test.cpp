@@ -50,6 +50,16 @@ bool flagOf(const VXValue& value) { return static_cast<bool>(value); }
 
 } // namespace
 
+TEST(VXValueFlag, OfAVectorOfFlagsIsABool)
+{
+    std::vector<bool> flags{true, false};
+    const VXValue value(flags[0]);
+    EXPECT_EQ(value.dump(1), "true");
+    VXValue assigned = 42;
+    assigned = flags[1];
+    EXPECT_EQ(assigned.dump(1), "false");
+}
+
 TEST(VXError, NamesModuleMethodAndMessage)
 {
     EXPECT_STREQ(VXError("module", "method", "message", "file", 7).what(), "\tmodule::method\n\tmessage");

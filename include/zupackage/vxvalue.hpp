@@ -51,6 +51,9 @@ public:
 /// of one value must take turns.
 class ZUPACKAGE_EXPORT VXValue
 {
+    template <class T>
+    static constexpr bool isFlag = std::is_same_v<T, bool> || std::is_same_v<T, std::vector<bool>::reference>;
+
 public:
     /// The kind of a value. The numbers are part of the interface.
     enum class Type : std::uint32_t
@@ -69,7 +72,7 @@ public:
     VXValue() noexcept {} // not defaulted: a const one needs no initialiser
     // Not explicit, as callers are used to.
     // A template, so that nothing that merely converts to bool, as any pointer does, becomes a Bool.
-    template <class Flag, class = std::enable_if_t<std::is_same_v<Flag, bool>>>
+    template <class Flag, class = std::enable_if_t<isFlag<Flag>>>
     VXValue(Flag value) noexcept : m_type(Type::Bool) // NOLINT(google-explicit-constructor)
     {
         m_value.boolean = value;
@@ -103,7 +106,7 @@ public:
     /// Makes this a String of the characters up to the terminating zero. A null pointer throws.
     VXValue& operator=(const char* value);
     // So that a literal 0 is the number, not a null pointer.
-    template <class Flag, class = std::enable_if_t<std::is_same_v<Flag, bool>>>
+    template <class Flag, class = std::enable_if_t<isFlag<Flag>>>
     VXValue& operator=(Flag value) noexcept
     {
         return *this = VXValue(value);
