@@ -8,6 +8,7 @@
 #include <limits>
 #include <optional>
 #include <tuple>
+#include <vector>
 
 namespace zu {
 
@@ -24,6 +25,20 @@ template <class Visit>
 void forEachInteger(Visit visit)
 {
     std::apply([&visit](auto... types) { (visit(types), ...); }, Integers());
+}
+
+/// The first and last number of each integer type, with both neighbours.
+std::vector<Wide> edges()
+{
+    std::vector<Wide> numbers;
+    forEachInteger([&numbers](auto type) {
+        using Limits = std::numeric_limits<decltype(type)>;
+        for (const int beyond : {-1, 0, 1}) {
+            numbers.push_back(static_cast<Wide>(Limits::min()) + beyond);
+            numbers.push_back(static_cast<Wide>(Limits::max()) + beyond);
+        }
+    });
+    return numbers;
 }
 
 /// Whether Target has the number.
@@ -62,16 +77,11 @@ TEST(NumberConversion, EveryIntegerWidthKeepsItsEdgesAndRefusesOneBeyond)
 {
     forEachInteger([](auto source) {
         forEachInteger([](auto target) {
-            forEachInteger([](auto edge) {
-                using Source = decltype(source);
-                using Target = decltype(target);
-                using Edge = std::numeric_limits<decltype(edge)>;
-                SCOPED_TRACE(TypeInfo::of<Source>().name() + " to " + TypeInfo::of<Target>().name());
-                for (const int beyond : {-1, 0, 1}) {
-                    expectByRange<Source, Target>(static_cast<Wide>(Edge::min()) + beyond);
-                    expectByRange<Source, Target>(static_cast<Wide>(Edge::max()) + beyond);
-                }
-            });
+            using Source = decltype(source);
+            using Target = decltype(target);
+            SCOPED_TRACE(TypeInfo::of<Source>().name() + " to " + TypeInfo::of<Target>().name());
+            for (const Wide number : edges())
+                expectByRange<Source, Target>(number);
         });
     });
 }
