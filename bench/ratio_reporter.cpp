@@ -15,9 +15,10 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs)
 
 void RatioReporter::Finalize()
 {
+    constexpr int k_nameWidth = 36;
     auto& out = GetOutputStream();
     out << '\n'
-        << std::left << std::setw(34) << "ratio" << std::setw(34) << "to"
+        << std::left << std::setw(k_nameWidth) << "ratio" << std::setw(k_nameWidth) << "to"
         << "is      target\n";
     for (const Target& target : m_targets) {
         const auto time = m_times.find(target.what);
@@ -25,8 +26,8 @@ void RatioReporter::Finalize()
         if (time == m_times.end() || floor == m_times.end())
             continue;
         const double ratio = time->second / floor->second;
-        out << std::setw(34) << target.what << std::setw(34) << target.floor << std::setw(8) << std::setprecision(3)
-            << ratio;
+        out << std::setw(k_nameWidth) << target.what << std::setw(k_nameWidth) << target.floor << std::setw(8)
+            << std::setprecision(3) << ratio;
         if (target.atMost > 0) {
             const bool reached = ratio <= target.atMost;
             m_missed += reached ? 0 : 1;
