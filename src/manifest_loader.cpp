@@ -18,9 +18,9 @@ namespace {
 
 using namespace xml::names;
 
-std::map<std::string, std::string> textsByLanguage(const QDomNode& element)
+keys::Texts textsByLanguage(const QDomNode& element)
 {
-    std::map<std::string, std::string> texts;
+    keys::Texts texts;
     xml::readTexts(element, k_lang, texts);
     return texts;
 }
@@ -39,9 +39,9 @@ std::vector<std::string> executableFiles(const QDomNode& element)
     return paths;
 }
 
-std::pair<std::vector<RobotRequirement>, std::vector<MorvoRequirement>> requirements(const QDomNode& element)
+keys::Requirements requirements(const QDomNode& element)
 {
-    std::pair<std::vector<RobotRequirement>, std::vector<MorvoRequirement>> requirements;
+    keys::Requirements requirements;
     readRequirements(element, requirements.first, requirements.second);
     return requirements;
 }
@@ -54,46 +54,55 @@ std::vector<std::string> supportedLanguages(const QDomNode& element)
     return languages;
 }
 
-template <class Record>
-void storeUnlessEmpty(const std::list<Record>& records, const char* key, std::map<std::string, AnyValue>& contents)
+template <class T>
+void store(T value, keys::Key<T> key, keys::Values& values)
 {
-    if (!records.empty())
-        contents[key] = AnyValue::from(std::vector<Record>(records.begin(), records.end()));
+    values[key.name] = AnyValue::from(std::move(value));
 }
 
-std::map<std::string, AnyValue> contents(const QDomNode& element)
+template <class Record>
+void storeUnlessEmpty(const std::list<Record>& records, keys::Key<std::vector<Record>> key, keys::Values& contents)
+{
+    if (!records.empty())
+        store(std::vector<Record>(records.begin(), records.end()), key, contents);
+}
+
+keys::Values contents(const QDomNode& element)
 {
     // Lists first: a growing vector would copy the records again and again.
     std::list<BehaviorInfo> behaviors;
     std::list<DialogInfo> dialogs;
     std::list<LanguageInfo> languages;
     readContents(element, behaviors, dialogs, languages);
-    std::map<std::string, AnyValue> contents;
+    keys::Values contents;
     storeUnlessEmpty(behaviors, keys::k_behaviors, contents);
     storeUnlessEmpty(dialogs, keys::k_dialogs, contents);
     storeUnlessEmpty(languages, keys::k_languages, contents);
     for (const QDomNode& child : xml::children(element))
         if (child.nodeName() == k_webContent)
-            contents[keys::k_web] = AnyValue::from(WebInfo{xml::attribute(child, k_path)});
+            store(WebInfo{xml::attribute(child, k_path)}, keys::k_web, contents);
     return contents;
+}
+
+/// The section of that name, which stores what `read` gives.
+template <class T>
+Section section(const QString& name, T (*read)(const QDomNode& element), keys::Key<T> key, keys::Values& elements)
+{
+    return {name, [read, key, &elements](const QDomNode& element) { store(read(element), key, elements); }};
 }
 
 PackageInfo2 packageFrom(const QDomNode& root)
 {
     PackageInfo2 package;
     readRootAttributes(root, package);
-    const auto section = [&package](const QString& name, const char* key, auto read) {
-        return Section{name, [&package, key, read](const QDomNode& element) {
-                           package.elements[key] = AnyValue::from(read(element));
-                       }};
-    };
-    readSections(root, {section(k_names, keys::k_names, &textsByLanguage),
-                        section(k_descriptions, keys::k_descriptions, &textsByLanguage),
-                        section(k_services, keys::k_services, &services),
-                        section(k_executableFiles, keys::k_executableFiles, &executableFiles),
-                        section(k_requirements, keys::k_requirements, &requirements),
-                        section(k_supportedLanguages, keys::k_supportedLanguages, &supportedLanguages),
-                        section(k_contents, keys::k_contents, &contents)});
+    keys::Values& elements = package.elements;
+    readSections(root, {section(k_names, &textsByLanguage, keys::k_names, elements),
+                        section(k_descriptions, &textsByLanguage, keys::k_descriptions, elements),
+                        section(k_services, &services, keys::k_services, elements),
+                        section(k_executableFiles, &executableFiles, keys::k_executableFiles, elements),
+                        section(k_requirements, &requirements, keys::k_requirements, elements),
+                        section(k_supportedLanguages, &supportedLanguages, keys::k_supportedLanguages, elements),
+                        section(k_contents, &contents, keys::k_contents, elements)});
     return package;
 }
 

@@ -13,9 +13,10 @@ namespace zu {
 
 namespace {
 
-using Texts = std::map<std::string, std::string>;
-using Requirements = std::pair<std::vector<RobotRequirement>, std::vector<MorvoRequirement>>;
-using Values = std::map<std::string, AnyValue>;
+using keys::Key;
+using keys::Requirements;
+using keys::Texts;
+using keys::Values;
 
 template <class T>
 T& demanded(AnyValue& stored)
@@ -26,20 +27,20 @@ T& demanded(AnyValue& stored)
 }
 
 template <class T>
-T& madeOrDemanded(Values& values, const char* key)
+T& madeOrDemanded(Values& values, Key<T> key)
 {
-    auto place = values.find(key);
+    auto place = values.find(key.name);
     if (place == values.end())
-        place = values.emplace(key, AnyValue::from(T())).first;
+        place = values.emplace(key.name, AnyValue::from(T())).first;
     return demanded<T>(place->second);
 }
 
 /// Calls `use` with the value under `key` as a T, converted where it is of another type; does nothing when there is
 /// none.
 template <class T, class Use>
-void withValue(const Values& values, const char* key, Use use)
+void withValue(const Values& values, Key<T> key, Use use)
 {
-    const auto place = values.find(key);
+    const auto place = values.find(key.name);
     if (place == values.end())
         return;
     const AnyValue& stored = place->second;
@@ -59,19 +60,18 @@ auto into(std::list<T>& list)
 }
 
 template <class T>
-T valueOf(const Values& values, const char* key)
+T valueOf(const Values& values, Key<T> key)
 {
     T copy;
-    withValue<T>(values, key, [&copy](const T& value) { copy = value; });
+    withValue(values, key, [&copy](const T& value) { copy = value; });
     return copy;
 }
 
 template <class T>
-T contentOf(const PackageInfo2& package, const char* key)
+T contentOf(const PackageInfo2& package, Key<T> key)
 {
     T copy;
-    withValue<Values>(package.elements, keys::k_contents,
-                      [&](const Values& contents) { copy = valueOf<T>(contents, key); });
+    withValue(package.elements, keys::k_contents, [&](const Values& contents) { copy = valueOf(contents, key); });
     return copy;
 }
 
@@ -84,43 +84,25 @@ PackageInfo2& PackageInfo2::operator=(const PackageInfo2& other) = default;
 PackageInfo2& PackageInfo2::operator=(PackageInfo2&& other) noexcept = default;
 PackageInfo2::~PackageInfo2() = default;
 
-std::map<std::string, AnyValue>& PackageInfo2::contents() { return madeOrDemanded<Values>(elements, keys::k_contents); }
+std::map<std::string, AnyValue>& PackageInfo2::contents() { return madeOrDemanded(elements, keys::k_contents); }
 
-std::vector<BehaviorInfo>& PackageInfo2::behaviors()
-{
-    return madeOrDemanded<std::vector<BehaviorInfo>>(contents(), keys::k_behaviors);
-}
+std::vector<BehaviorInfo>& PackageInfo2::behaviors() { return madeOrDemanded(contents(), keys::k_behaviors); }
 
-std::vector<DialogInfo>& PackageInfo2::dialogs()
-{
-    return madeOrDemanded<std::vector<DialogInfo>>(contents(), keys::k_dialogs);
-}
+std::vector<DialogInfo>& PackageInfo2::dialogs() { return madeOrDemanded(contents(), keys::k_dialogs); }
 
-std::vector<LanguageInfo>& PackageInfo2::languages()
-{
-    return madeOrDemanded<std::vector<LanguageInfo>>(contents(), keys::k_languages);
-}
+std::vector<LanguageInfo>& PackageInfo2::languages() { return madeOrDemanded(contents(), keys::k_languages); }
 
-WebInfo& PackageInfo2::web() { return demanded<WebInfo>(contents()[keys::k_web]); }
+WebInfo& PackageInfo2::web() { return demanded<WebInfo>(contents()[keys::k_web.name]); }
 
-std::map<std::string, AnyValue> PackageInfo2::contents() const { return valueOf<Values>(elements, keys::k_contents); }
+std::map<std::string, AnyValue> PackageInfo2::contents() const { return valueOf(elements, keys::k_contents); }
 
-std::vector<BehaviorInfo> PackageInfo2::behaviors() const
-{
-    return contentOf<std::vector<BehaviorInfo>>(*this, keys::k_behaviors);
-}
+std::vector<BehaviorInfo> PackageInfo2::behaviors() const { return contentOf(*this, keys::k_behaviors); }
 
-std::vector<DialogInfo> PackageInfo2::dialogs() const
-{
-    return contentOf<std::vector<DialogInfo>>(*this, keys::k_dialogs);
-}
+std::vector<DialogInfo> PackageInfo2::dialogs() const { return contentOf(*this, keys::k_dialogs); }
 
-std::vector<LanguageInfo> PackageInfo2::languages() const
-{
-    return contentOf<std::vector<LanguageInfo>>(*this, keys::k_languages);
-}
+std::vector<LanguageInfo> PackageInfo2::languages() const { return contentOf(*this, keys::k_languages); }
 
-WebInfo PackageInfo2::web() const { return contentOf<WebInfo>(*this, keys::k_web); }
+WebInfo PackageInfo2::web() const { return contentOf(*this, keys::k_web); }
 
 PackageInfo::PackageInfo(const PackageInfo2& package) : PackageInfo()
 {
@@ -135,23 +117,23 @@ PackageInfo::PackageInfo(const PackageInfo2& package) : PackageInfo()
     m_p->path = package.path;
     m_p->installOnlyAtStartup = package.installOnlyAtStartup;
     const Values& elements = package.elements;
-    withValue<Texts>(elements, keys::k_names, [this](const Texts& names) { m_p->langToName = names; });
-    withValue<Texts>(elements, keys::k_descriptions, [this](const Texts& texts) { m_p->langToDesc = texts; });
-    withValue<std::vector<PackageService>>(elements, keys::k_services, into(m_p->services));
-    withValue<std::vector<std::string>>(elements, keys::k_executableFiles, into(m_p->executableFiles));
-    withValue<Requirements>(elements, keys::k_requirements, [this](const Requirements& requirements) {
+    withValue(elements, keys::k_names, [this](const Texts& names) { m_p->langToName = names; });
+    withValue(elements, keys::k_descriptions, [this](const Texts& texts) { m_p->langToDesc = texts; });
+    withValue(elements, keys::k_services, into(m_p->services));
+    withValue(elements, keys::k_executableFiles, into(m_p->executableFiles));
+    withValue(elements, keys::k_requirements, [this](const Requirements& requirements) {
         into(m_p->robotRequirements)(requirements.first);
         into(m_p->morvoRequirements)(requirements.second);
     });
-    withValue<std::vector<std::string>>(elements, keys::k_supportedLanguages, [this](const auto& languages) {
+    withValue(elements, keys::k_supportedLanguages, [this](const auto& languages) {
         LanguageAppender appender(m_p->supportedLanguages);
         for (const std::string& lang : languages)
             appender.append(lang);
     });
-    withValue<Values>(elements, keys::k_contents, [this](const Values& contents) {
-        withValue<std::vector<BehaviorInfo>>(contents, keys::k_behaviors, into(m_p->behaviors));
-        withValue<std::vector<DialogInfo>>(contents, keys::k_dialogs, into(m_p->dialogs));
-        withValue<std::vector<LanguageInfo>>(contents, keys::k_languages, into(m_p->languages));
+    withValue(elements, keys::k_contents, [this](const Values& contents) {
+        withValue(contents, keys::k_behaviors, into(m_p->behaviors));
+        withValue(contents, keys::k_dialogs, into(m_p->dialogs));
+        withValue(contents, keys::k_languages, into(m_p->languages));
     });
 }
 
