@@ -1,4 +1,5 @@
 #include "support/generated_packages.hpp"
+#include "support/records.hpp"
 
 #include <zupackage/package_info2.hpp>
 
@@ -8,6 +9,7 @@
 
 namespace zu {
 
+using test::behaviorAt;
 using test::describe;
 using testing::ElementsAre;
 
@@ -15,13 +17,6 @@ namespace {
 
 using Texts = std::map<std::string, std::string>;
 using Requirements = std::pair<std::vector<RobotRequirement>, std::vector<MorvoRequirement>>;
-
-BehaviorInfo behavior(const std::string& path)
-{
-    BehaviorInfo behavior;
-    behavior.setPath(path);
-    return behavior;
-}
 
 } // namespace
 
@@ -90,13 +85,13 @@ TEST(PackageFromValue, TakesEveryElementInOrder)
 TEST(PackageFromValue, TakesTheContentsWithoutTheWeb)
 {
     PackageInfo2 source;
-    source.behaviors() = {behavior("b"), behavior("a")};
+    source.behaviors() = {behaviorAt("b"), behaviorAt("a")};
     source.dialogs().emplace_back().setTopicName("d");
     source.languages().emplace_back().setLocale("l");
     source.contents()["web"] = AnyValue::from(WebInfo{"w"});
     PackageInfo expected;
-    expected.addBehavior(behavior("b"));
-    expected.addBehavior(behavior("a"));
+    expected.addBehavior(behaviorAt("b"));
+    expected.addBehavior(behaviorAt("a"));
     DialogInfo dialog;
     dialog.setTopicName("d");
     expected.addDialog(dialog);
@@ -121,7 +116,7 @@ TEST(PackageFromValue, ConvertsWhatIsOfAnotherType)
     source.elements["requirements"] =
         AnyValue::from(std::pair<std::list<RobotRequirement>, std::vector<std::map<std::string, std::string>>>{
             {{"m", "", "", "", ""}}, {{{"minVersion", "1"}, {"maxVersion", "2"}}}});
-    source.contents()["behaviors"] = AnyValue::from(std::list<BehaviorInfo>{behavior("b")});
+    source.contents()["behaviors"] = AnyValue::from(std::list<BehaviorInfo>{behaviorAt("b")});
     const PackageInfo package = source;
     EXPECT_EQ(package.name("en"), "name");
     EXPECT_THAT(package.executableFiles(), ElementsAre("a"));

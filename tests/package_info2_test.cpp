@@ -1,3 +1,5 @@
+#include "support/records.hpp"
+
 #include <zupackage/package_info2.hpp>
 
 #include <zu/conversion.hpp>
@@ -9,6 +11,7 @@
 
 namespace zu {
 
+using test::behaviorAt;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Key;
@@ -28,13 +31,6 @@ static_assert(std::is_same_v<decltype(PackageInfo2::elements), std::map<std::str
 namespace {
 
 using Values = std::map<std::string, AnyValue>;
-
-BehaviorInfo behavior(const std::string& path)
-{
-    BehaviorInfo behavior;
-    behavior.setPath(path);
-    return behavior;
-}
 
 /// Calls each accessor that makes or demands an entry of the contents map.
 template <class Use>
@@ -75,7 +71,7 @@ TEST(PackageInfo2, StartsEmpty)
 TEST(PackageInfo2, ACopyIsDeep)
 {
     PackageInfo2 package;
-    package.behaviors().push_back(behavior("first"));
+    package.behaviors().push_back(behaviorAt("first"));
     PackageInfo2 copy(package);
     PackageInfo2 assigned;
     assigned = package;
@@ -125,7 +121,7 @@ TEST(PackageInfo2Contents, AreMadeOnFirstUse)
 TEST(PackageInfo2Contents, AreTheStoredValuesThemselves)
 {
     PackageInfo2 package;
-    package.behaviors().push_back(behavior("b"));
+    package.behaviors().push_back(behaviorAt("b"));
     package.dialogs().emplace_back().setTopicName("d");
     package.languages().emplace_back().setLocale("l");
     package.contents()["web"] = AnyValue::from(WebInfo{"w"});
@@ -163,7 +159,7 @@ TEST(PackageInfo2Contents, AnEntryOfAnotherTypeIsAMismatchAndStays)
 TEST(PackageInfo2Contents, NothingIsConvertedToWriteTo)
 {
     PackageInfo2 package;
-    package.contents()["behaviors"] = AnyValue::from(std::list<BehaviorInfo>{behavior("b")});
+    package.contents()["behaviors"] = AnyValue::from(std::list<BehaviorInfo>{behaviorAt("b")});
     expectTypeMismatch([&package] { package.behaviors(); });
 }
 
@@ -193,7 +189,7 @@ TEST(PackageInfo2ConstContents, AreEmptyWhereAbsentAndChangeNothing)
 TEST(PackageInfo2ConstContents, AreCopies)
 {
     PackageInfo2 package;
-    package.behaviors().push_back(behavior("b"));
+    package.behaviors().push_back(behaviorAt("b"));
     std::as_const(package).behaviors()[0].setPath("changed");
     std::as_const(package).contents().clear();
     EXPECT_EQ(package.behaviors()[0].path(), "b");
@@ -203,7 +199,7 @@ TEST(PackageInfo2ConstContents, AreConverted)
 {
     PackageInfo2 package;
     package.elements["contents"] =
-        AnyValue::from(std::map<std::string, std::list<BehaviorInfo>>{{"behaviors", {behavior("b")}}});
+        AnyValue::from(std::map<std::string, std::list<BehaviorInfo>>{{"behaviors", {behaviorAt("b")}}});
     EXPECT_EQ(std::as_const(package).behaviors().at(0).path(), "b");
     EXPECT_TRUE(std::as_const(package).contents().at("behaviors").holds<std::list<BehaviorInfo>>());
     package.elements["contents"] =

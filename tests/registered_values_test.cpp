@@ -2,6 +2,7 @@
 #include "support/generated_packages.hpp"
 #include "support/manifests.hpp"
 #include "support/property.hpp"
+#include "support/records.hpp"
 
 #include <zupackage/package_info2.hpp>
 
@@ -49,10 +50,9 @@ void setTextsToTheirNames(const AnyReference& object)
     }
 }
 
-BehaviorInfo behavior(const std::string& path)
+BehaviorInfo taggedBehavior(const std::string& path)
 {
-    BehaviorInfo behavior;
-    behavior.setPath(path);
+    BehaviorInfo behavior = test::behaviorAt(path);
     behavior.addTag("tag", "en");
     return behavior;
 }
@@ -65,7 +65,7 @@ TEST(RegisteredValue, WritingAMemberOfAPackageChangesThePackage)
     const AnyReference reference = AnyReference::from(package);
     memberOf(reference, "installer").set("store");
     memberOf(reference, "langToName").set(std::map<std::string, std::string>{{"en", "Name"}});
-    memberOf(reference, "behaviors").set(std::vector<BehaviorInfo>{behavior("b")});
+    memberOf(reference, "behaviors").set(std::vector<BehaviorInfo>{taggedBehavior("b")});
     EXPECT_EQ(package.installer(), "store");
     EXPECT_EQ(package.name("en"), "Name");
     ASSERT_EQ(package.behaviors().size(), 1u);
@@ -75,7 +75,7 @@ TEST(RegisteredValue, WritingAMemberOfAPackageChangesThePackage)
 TEST(RegisteredValue, WritingIntoARecordInsideAPackageChangesThePackage)
 {
     PackageInfo package;
-    package.addBehavior(behavior("old"));
+    package.addBehavior(taggedBehavior("old"));
     package.addService({"run", "service", false, {}});
     const AnyReference reference = AnyReference::from(package);
     for (const AnyReference inner : memberOf(reference, "behaviors"))
@@ -182,7 +182,7 @@ TEST(RegisteredValue, AValueOfARegisteredNameCanBeMade)
 
 TEST(RegisteredValue, ACopyIsDeep)
 {
-    AnyValue value = AnyValue::from(behavior("first"));
+    AnyValue value = AnyValue::from(taggedBehavior("first"));
     const AnyValue copy = value;
     value.getIf<BehaviorInfo>()->setPath("second");
     EXPECT_EQ(copy.getIf<BehaviorInfo>()->path(), "first");
@@ -218,8 +218,8 @@ TEST(RegisteredValue, APackageGoesToAMapOfNamedValuesAndBackWithoutInstallOnlyAt
 
 TEST(RegisteredValue, AMapThatDoesNotFitLeavesTheBehaviorAsItWas)
 {
-    BehaviorInfo target = behavior("kept");
-    const auto whole = AnyValue::from(behavior("new")).to<Values>();
+    BehaviorInfo target = taggedBehavior("kept");
+    const auto whole = AnyValue::from(taggedBehavior("new")).to<Values>();
     Values missing = whole;
     missing.erase("categories");
     Values unknown = whole;
@@ -228,12 +228,12 @@ TEST(RegisteredValue, AMapThatDoesNotFitLeavesTheBehaviorAsItWas)
     mistyped["userRequestable"] = AnyValue::from("yes");
     for (const Values& values : {missing, unknown, mistyped})
         EXPECT_THROW(AnyReference::from(target).set(AnyValue::from(values)), ConversionError);
-    EXPECT_EQ(dumpOf(target), dumpOf(behavior("kept")));
+    EXPECT_EQ(dumpOf(target), dumpOf(taggedBehavior("kept")));
 }
 
 TEST(RegisteredValue, VectorsBecomeListsAndBack)
 {
-    const std::vector<BehaviorInfo> behaviors{behavior("a"), behavior("b")};
+    const std::vector<BehaviorInfo> behaviors{taggedBehavior("a"), taggedBehavior("b")};
     const auto list = AnyValue::from(behaviors).to<std::list<BehaviorInfo>>();
     ASSERT_EQ(list.size(), 2u);
     EXPECT_EQ(dumpOf(list.back()), dumpOf(behaviors.back()));
@@ -256,14 +256,14 @@ TEST(RegisteredValue, MapsOfDynamicValuesTravel)
 {
     const AnyValue value =
         AnyValue::from(Values{{"web", AnyValue::from(WebInfo{"html"})},
-                              {"behaviors", AnyValue::from(std::list<BehaviorInfo>{behavior("b")})}});
+                              {"behaviors", AnyValue::from(std::list<BehaviorInfo>{taggedBehavior("b")})}});
     const auto values = value.to<Values>();
     EXPECT_EQ(values.at("web").to<WebInfo>().path, "html");
     EXPECT_EQ(values.at("behaviors").to<std::vector<BehaviorInfo>>()[0].path(), "b");
     using Tags = std::map<std::string, std::list<std::string>>;
     const auto tags =
-        AnyValue::from(behavior("b").languagesToTags()).to<std::map<std::string, std::vector<std::string>>>();
-    EXPECT_EQ(AnyValue::from(tags).to<Tags>(), behavior("b").languagesToTags());
+        AnyValue::from(taggedBehavior("b").languagesToTags()).to<std::map<std::string, std::vector<std::string>>>();
+    EXPECT_EQ(AnyValue::from(tags).to<Tags>(), taggedBehavior("b").languagesToTags());
 }
 
 } // namespace zu
