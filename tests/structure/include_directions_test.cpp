@@ -97,11 +97,13 @@ const std::vector<Rule> k_rules = {
     {"include/zupackage/package_info2.hpp", {Layer::PackagePublic, Layer::FrameworkPublic, Layer::Other}},
     {"include/zupackage/", {Layer::PackagePublic, Layer::Qt, Layer::Other}},
     // The places of the package library that may know the framework.
-    {"src/package_info2.", {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Other}},
-    {"src/type_registration.", {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Other}},
-    {"src/vxvalue_type.", {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Other}},
-    {"src/vxvalueconverter.", {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Other}},
-    {"src/package_log.",
+    {"src/value_model/",
+     {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Qt, Layer::Other}},
+    {"src/types/", {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Other}},
+    {"src/variant/vxvalue_type.", {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Other}},
+    {"src/variant/vxvalueconverter.",
+     {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Other}},
+    {"src/manifest/package_log.",
      {Layer::PackagePublic, Layer::PackagePrivate, Layer::FrameworkPublic, Layer::Qt, Layer::Other}},
     {"src/", {Layer::PackagePublic, Layer::PackagePrivate, Layer::Qt, Layer::Other}},
     {"cli/", {Layer::PackagePublic, Layer::Cli, Layer::Qt, Layer::Cli11, Layer::Other}},
@@ -157,7 +159,7 @@ TEST(Structure, ForbiddenDirectionsAreFound)
         {"framework/include/zu/x.hpp", "#include <spdlog/spdlog.h>"},
         {"framework/tests/x.cpp", "#include \"log_handlers.hpp\""},
         {"include/zupackage/x.hpp", "#include <zu/log.hpp>"},
-        {"src/behavior_info.cpp", "#include <zu/log.hpp>"},
+        {"src/records/behavior_info.cpp", "#include <zu/log.hpp>"},
         {"src/x.cpp", "#  include <CLI/CLI.hpp> // comment"},
         {"cli/x.cpp", "#include <zu/log.hpp>"},
         {"cli/x.cpp", "#include \"package_info_p.hpp\""},
@@ -166,7 +168,7 @@ TEST(Structure, ForbiddenDirectionsAreFound)
     };
     for (const auto& [file, text] : forbidden)
         EXPECT_TRUE(forbiddenInclude(file, text)) << file << ": " << text;
-    EXPECT_FALSE(forbiddenInclude("src/package_log.cpp", "#include <zu/log.hpp>\n#include <string>"));
+    EXPECT_FALSE(forbiddenInclude("src/manifest/package_log.cpp", "#include <zu/log.hpp>\n#include <string>"));
 }
 
 } // namespace zu

@@ -1,0 +1,131 @@
+#include "manifest/manifest_names.hpp"
+#include "manifest/package_elements_reader.hpp"
+#include "manifest/package_log.hpp"
+#include "value_model/package_info2_keys.hpp"
+#include "xml/document.hpp"
+#include "xml/nodes.hpp"
+
+#include <zupackage/package_info2.hpp>
+
+#include <QtCore/QFile>
+
+#include <stdexcept>
+#include <utility>
+
+namespace zu {
+
+namespace {
+
+using namespace xml::names;
+
+keys::Texts textsByLanguage(const QDomNode& element)
+{
+    keys::Texts texts;
+    xml::readTexts(element, k_lang, texts);
+    return texts;
+}
+
+std::vector<PackageService> services(const QDomNode& element)
+{
+    std::vector<PackageService> services;
+    readServices(element, services);
+    return services;
+}
+
+std::vector<std::string> executableFiles(const QDomNode& element)
+{
+    std::vector<std::string> paths;
+    readExecutableFiles(element, paths);
+    return paths;
+}
+
+keys::Requirements requirements(const QDomNode& element)
+{
+    keys::Requirements requirements;
+    readRequirements(element, requirements.first, requirements.second);
+    return requirements;
+}
+
+std::vector<std::string> supportedLanguages(const QDomNode& element)
+{
+    std::vector<std::string> languages;
+    for (const QDomNode& child : xml::children(element))
+        languages.push_back(xml::text(child));
+    return languages;
+}
+
+template <class T>
+void store(T value, keys::Key<T> key, keys::Values& values)
+{
+    values[key.name] = AnyValue::from(std::move(value));
+}
+
+template <class Record>
+void storeUnlessEmpty(const std::list<Record>& records, keys::Key<std::vector<Record>> key, keys::Values& contents)
+{
+    if (!records.empty())
+        store(std::vector<Record>(records.begin(), records.end()), key, contents);
+}
+
+keys::Values contents(const QDomNode& element)
+{
+    // Lists first: a growing vector would copy the records again and again.
+    std::list<BehaviorInfo> behaviors;
+    std::list<DialogInfo> dialogs;
+    std::list<LanguageInfo> languages;
+    readContents(element, behaviors, dialogs, languages);
+    keys::Values contents;
+    storeUnlessEmpty(behaviors, keys::k_behaviors, contents);
+    storeUnlessEmpty(dialogs, keys::k_dialogs, contents);
+    storeUnlessEmpty(languages, keys::k_languages, contents);
+    for (const QDomNode& child : xml::children(element))
+        if (child.nodeName() == k_webContent)
+            store(WebInfo{xml::attribute(child, k_path)}, keys::k_web, contents);
+    return contents;
+}
+
+/// The section of that name, which stores what `read` gives.
+template <class T>
+Section section(const QString& name, T (*read)(const QDomNode& element), keys::Key<T> key, keys::Values& elements)
+{
+    return {name, [read, key, &elements](const QDomNode& element) { store(read(element), key, elements); }};
+}
+
+PackageInfo2 packageFrom(const QDomNode& root)
+{
+    PackageInfo2 package;
+    readRootAttributes(root, package);
+    keys::Values& elements = package.elements;
+    readSections(root, {section(k_names, &textsByLanguage, keys::k_names, elements),
+                        section(k_descriptions, &textsByLanguage, keys::k_descriptions, elements),
+                        section(k_services, &services, keys::k_services, elements),
+                        section(k_executableFiles, &executableFiles, keys::k_executableFiles, elements),
+                        section(k_requirements, &requirements, keys::k_requirements, elements),
+                        section(k_supportedLanguages, &supportedLanguages, keys::k_supportedLanguages, elements),
+                        section(k_contents, &contents, keys::k_contents, elements)});
+    return package;
+}
+
+[[noreturn]] void fail(const std::string& message, int line)
+{
+    log::write(packageInfoCategory(), log::Level::Error, packageInfoOrigin("zu::loadManifest", line), message);
+    throw std::runtime_error(message);
+}
+
+} // namespace
+
+PackageInfo2 loadManifest(const std::string& path)
+{
+    QFile file(xml::fromUtf8(path));
+    if (!file.open(QIODevice::ReadOnly))
+        fail("Could not open " + path + " for reading.", __LINE__);
+    const xml::ParseResult result = xml::parse(file);
+    file.close();
+    if (const auto* failure = std::get_if<xml::ParseFailure>(&result))
+        fail("Syntax error in " + path + ":" + std::to_string(failure->line) + ":" + std::to_string(failure->column) +
+                 ": " + failure->message,
+             __LINE__);
+    return packageFrom(std::get<QDomDocument>(result).documentElement());
+}
+
+} // namespace zu
