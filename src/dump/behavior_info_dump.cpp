@@ -4,7 +4,7 @@
 
 #include <ostream>
 
-namespace zu {
+namespace zupackage {
 
 namespace {
 
@@ -45,11 +45,8 @@ void dumpPermissions(std::ostream& out, const std::list<std::string>& permission
     out << std::endl;
 }
 
-} // namespace
-
-std::ostream& operator<<(std::ostream& out, const BehaviorInfo& behavior)
+void dump(std::ostream& out, const zu::BehaviorInfoPrivate& record)
 {
-    const BehaviorInfoPrivate& record = PrivateRecord::of(behavior);
     out << "Path: " << record.path << std::endl;
     out << "Nature: " << record.nature << std::endl;
     out << "UserRequestable" << record.userRequestable << std::endl;
@@ -67,6 +64,17 @@ std::ostream& operator<<(std::ostream& out, const BehaviorInfo& behavior)
     dumpQuoted(out, record.purposeToCondition);
     out << "Permissions:" << std::endl;
     dumpPermissions(out, record.permissions);
+}
+
+} // namespace
+
+} // namespace zupackage
+
+namespace zu {
+
+std::ostream& operator<<(std::ostream& out, const BehaviorInfo& behavior)
+{
+    zupackage::dump(out, PrivateRecord::of(behavior));
     return out;
 }
 

@@ -1,4 +1,5 @@
-#include <zupackage/dialog_info.hpp>
+#include "records/dialog_info_p.hpp"
+#include "records/private_record.hpp"
 
 #include <ostream>
 
@@ -6,10 +7,11 @@ namespace zu {
 
 std::ostream& operator<<(std::ostream& out, const DialogInfo& dialog)
 {
-    out << "Topic name: " << dialog.topicName() << std::endl;
-    out << "Type version: " << dialog.typeVersion() << std::endl;
+    const DialogInfoPrivate& record = PrivateRecord::of(dialog);
+    out << "Topic name: " << record.topicName << std::endl;
+    out << "Type version: " << record.typeVersion << std::endl;
     out << "Topic files: " << std::endl;
-    for (const auto& [lang, path] : dialog.topics())
+    for (const auto& [lang, path] : record.topics)
         out << lang << " -> " << path << std::endl;
     return out;
 }

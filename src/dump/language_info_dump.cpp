@@ -12,7 +12,7 @@ std::ostream& operator<<(std::ostream& out, const LanguageInfo& language)
     out << "Engine name: " << record.engineName << std::endl;
     out << "Engine version: " << record.engineVersion << std::endl;
     out << "Names:" << std::endl;
-    dumpTexts(out, record.langToName);
+    zupackage::dumpTexts(out, record.langToName);
     return out;
 }
 

@@ -1,32 +1,32 @@
 #include "dump/texts_dump.hpp"
+#include "records/package_info_p.hpp"
+#include "records/private_record.hpp"
 
-#include <zupackage/package_info.hpp>
-
-namespace zu {
+namespace zupackage {
 
 namespace {
 
-void dumpIdentity(std::ostream& out, const PackageInfo& package)
+void dumpIdentity(std::ostream& out, const zu::PackageInfoPrivate& package)
 {
-    out << "UUID: " << package.uuid() << std::endl;
-    out << "Version: " << package.version() << std::endl;
-    out << "Type Version: " << package.typeVersion() << std::endl;
-    out << "Install Only At Startup: " << package.installOnlyAtStartup() << std::endl;
-    out << "Author: " << package.author() << std::endl;
-    out << "Organization: " << package.organization() << std::endl;
-    out << "Date: " << package.date() << std::endl;
-    out << "Channel: " << package.channel() << std::endl;
-    out << "Path: " << package.path() << std::endl;
+    out << "UUID: " << package.uuid << std::endl;
+    out << "Version: " << package.version << std::endl;
+    out << "Type Version: " << package.typeVersion << std::endl;
+    out << "Install Only At Startup: " << package.installOnlyAtStartup << std::endl;
+    out << "Author: " << package.author << std::endl;
+    out << "Organization: " << package.organization << std::endl;
+    out << "Date: " << package.date << std::endl;
+    out << "Channel: " << package.channel << std::endl;
+    out << "Path: " << package.path << std::endl;
 }
 
-void dumpRequirements(std::ostream& out, const PackageInfo& package)
+void dumpRequirements(std::ostream& out, const zu::PackageInfoPrivate& package)
 {
     out << "Robotic requirements:" << std::endl;
-    for (const RobotRequirement& robot : package.robotRequirements())
+    for (const zu::RobotRequirement& robot : package.robotRequirements)
         out << "Model:" << robot.model << "; Head: " << robot.minHeadVersion << " ~ " << robot.maxHeadVersion
             << "; Body: " << robot.minBodyVersion << " ~ " << robot.maxBodyVersion << std::endl;
     out << "Software requirements:" << std::endl;
-    for (const MorvoRequirement& morvo : package.morvoRequirements())
+    for (const zu::MorvoRequirement& morvo : package.morvoRequirements)
         out << morvo.minVersion << " ~ " << morvo.maxVersion << std::endl;
 }
 
@@ -38,22 +38,31 @@ void dumpRecords(std::ostream& out, const char* title, const char* underline, co
         out << record;
 }
 
-} // namespace
-
-std::ostream& operator<<(std::ostream& out, const PackageInfo& package)
+void dump(std::ostream& out, const zu::PackageInfoPrivate& package)
 {
     dumpIdentity(out, package);
     out << "Names: " << std::endl;
-    dumpTexts(out, package.names());
+    dumpTexts(out, package.langToName);
     out << "Descriptions:" << std::endl;
-    dumpTexts(out, package.descriptions());
+    dumpTexts(out, package.langToDesc);
     out << "Supported Languages:" << std::endl;
-    for (const std::string& lang : package.supportedLanguages())
+    for (const std::string& lang : package.supportedLanguages)
         out << "  " << lang << std::endl;
     dumpRequirements(out, package);
-    dumpRecords(out, "Languages", "*********", package.languages());
-    dumpRecords(out, "Behaviors", "*********", package.behaviors());
-    dumpRecords(out, "Dialogs", "*******", package.dialogs());
+    dumpRecords(out, "Languages", "*********", package.languages);
+    dumpRecords(out, "Behaviors", "*********", package.behaviors);
+    dumpRecords(out, "Dialogs", "*******", package.dialogs);
+}
+
+} // namespace
+
+} // namespace zupackage
+
+namespace zu {
+
+std::ostream& operator<<(std::ostream& out, const PackageInfo& package)
+{
+    zupackage::dump(out, PrivateRecord::of(package));
     return out;
 }
 

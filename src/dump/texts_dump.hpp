@@ -4,7 +4,7 @@
 #include <ostream>
 #include <string>
 
-namespace zu {
+namespace zupackage {
 
 /// A line for each entry of a per-language map, as the dumps of packages, behaviors and languages have it.
 inline void dumpTexts(std::ostream& out, const std::map<std::string, std::string>& langToText)
@@ -13,4 +13,4 @@ inline void dumpTexts(std::ostream& out, const std::map<std::string, std::string
         out << "  " << lang << " -> " << text << std::endl;
 }
 
-} // namespace zu
+} // namespace zupackage

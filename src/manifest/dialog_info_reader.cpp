@@ -4,16 +4,29 @@
 
 #include <QtXml/QDomElement>
 
+namespace zupackage {
+
+namespace {
+
+void fill(zu::DialogInfoPrivate& record, const QDomNode& element)
+{
+    using namespace names;
+    record.topicName = xml::attribute(element, k_topicName);
+    record.typeVersion = xml::attribute(element, k_typeVersion);
+    for (const QDomNode& child : xml::children(element))
+        if (xml::name(child) == k_topic)
+            record.topics[xml::attribute(child, k_language)] = xml::attribute(child, k_path);
+}
+
+} // namespace
+
+} // namespace zupackage
+
 namespace zu {
 
 bool DialogInfo::loadFromManifest(QDomElement& element)
 {
-    using namespace xml::names;
-    m_p->topicName = xml::attribute(element, k_topicName);
-    m_p->typeVersion = xml::attribute(element, k_typeVersion);
-    for (const QDomNode& child : xml::children(element))
-        if (child.nodeName() == k_topic)
-            m_p->topics[xml::attribute(child, k_language)] = xml::attribute(child, k_path);
+    zupackage::fill(*m_p, element);
     return true;
 }
 

@@ -2,23 +2,36 @@
 #include "records/language_info_p.hpp"
 #include "xml/nodes.hpp"
 
+namespace zupackage {
+
+namespace {
+
+void fill(zu::LanguageInfoPrivate& record, const QDomNode& element)
+{
+    using namespace names;
+    record.path = xml::attribute(element, k_path);
+    for (const QDomNode& child : xml::children(element)) {
+        const std::string name = xml::name(child);
+        if (name == k_names) {
+            xml::readTexts(child, k_lang, record.langToName);
+        } else if (name == k_engine) {
+            record.engineName = xml::attribute(child, k_name);
+            record.engineVersion = xml::attribute(child, k_version);
+        } else if (name == k_locale) {
+            record.locale = xml::text(child);
+        }
+    }
+}
+
+} // namespace
+
+} // namespace zupackage
+
 namespace zu {
 
 bool LanguageInfoPrivate::loadFromManifest(const QDomNode& element)
 {
-    using namespace xml::names;
-    path = xml::attribute(element, k_path);
-    for (const QDomNode& child : xml::children(element)) {
-        const QString name = child.nodeName();
-        if (name == k_names) {
-            xml::readTexts(child, k_lang, langToName);
-        } else if (name == k_engine) {
-            engineName = xml::attribute(child, k_name);
-            engineVersion = xml::attribute(child, k_version);
-        } else if (name == k_locale) {
-            locale = xml::text(child);
-        }
-    }
+    zupackage::fill(*this, element);
     return true;
 }
 

@@ -1,31 +1,31 @@
 #include "manifest/manifest_names.hpp"
 #include "manifest/package_elements_reader.hpp"
 #include "manifest/package_log.hpp"
-#include "records/language_appender.hpp"
+#include "records/append_once.hpp"
 #include "records/package_info_p.hpp"
 #include "xml/document.hpp"
 #include "xml/nodes.hpp"
 
 #include <QtCore/QFile>
 
-namespace zu {
+namespace zupackage {
 
 namespace {
 
-using namespace xml::names;
+using namespace names;
 
 /// Every child node of the container is a language.
-void readLanguages(const QDomNode& container, LanguageAppender& languages)
+void readLanguages(const QDomNode& container, OnceAppender& languages)
 {
     for (const QDomNode& child : xml::children(container))
         languages.append(xml::text(child));
 }
 
 /// Adds what a document says to a package's record.
-void fill(PackageInfoPrivate& record, const QDomNode& root)
+void fill(zu::PackageInfoPrivate& record, const QDomNode& root)
 {
-    LanguageAppender supported(record.supportedLanguages);
-    LanguageAppender description(record.descriptionLanguages);
+    OnceAppender supported(record.supportedLanguages);
+    OnceAppender description(record.descriptionLanguages);
     readRootAttributes(root, record);
     using Element = const QDomNode&;
     readSections(
@@ -41,48 +41,56 @@ void fill(PackageInfoPrivate& record, const QDomNode& root)
 }
 
 /// @param source what was parsed, as the record names it.
-void logSyntaxError(const std::string& source, const xml::ParseFailure& failure, const log::Origin& origin)
+void logSyntaxError(const std::string& source, const xml::ParseFailure& failure, const zu::log::Origin& origin)
 {
-    log::write(k_packageCategory, log::Level::Error, origin, [&] {
+    zu::log::write(k_packageCategory, zu::log::Level::Error, origin, [&] {
         return "Syntax error in " + source + " at line " + std::to_string(failure.line) + ", column " +
                std::to_string(failure.column) + ": " + failure.message;
     });
 }
 
+/// Adds what was parsed to the record.
+/// @return false, with a log record and the record as it was, when it could not be parsed.
+bool fillOrLog(zu::PackageInfoPrivate& record, const xml::ParseResult& result, const std::string& source,
+               const zu::log::Origin& origin)
+{
+    if (const auto* failure = std::get_if<xml::ParseFailure>(&result)) {
+        logSyntaxError(source, *failure, origin);
+        return false;
+    }
+    fill(record, std::get<QDomDocument>(result).documentElement());
+    return true;
+}
+
 } // namespace
+
+} // namespace zupackage
+
+namespace zu {
 
 bool PackageInfo::loadFromManifestContent(const std::string& content)
 {
-    const xml::ParseResult result = xml::parse(content);
-    if (const auto* failure = std::get_if<xml::ParseFailure>(&result)) {
-        logSyntaxError(content, *failure, packageInfoOrigin("zu::PackageInfo::loadFromManifestContent", __LINE__));
-        return false;
-    }
-    fill(*m_p, std::get<QDomDocument>(result).documentElement());
-    return true;
+    return zupackage::fillOrLog(*m_p, zupackage::xml::parse(content), content,
+                                zupackage::packageInfoOrigin("zu::PackageInfo::loadFromManifestContent", __LINE__));
 }
 
 bool PackageInfo::loadFromManifestFile(QFile& file)
 {
     static constexpr char k_function[] = "zu::PackageInfo::loadFromManifestFile";
+    const std::string name = zupackage::xml::toUtf8(file.fileName());
     if (!file.open(QIODevice::ReadOnly)) {
-        log::write(k_packageCategory, log::Level::Error, packageInfoOrigin(k_function, __LINE__),
-                   [&file] { return "Could not open " + file.fileName().toStdString() + " for reading"; });
+        log::write(zupackage::k_packageCategory, log::Level::Error, zupackage::packageInfoOrigin(k_function, __LINE__),
+                   [&name] { return "Could not open " + name + " for reading"; });
         return false;
     }
-    const xml::ParseResult result = xml::parse(file);
+    const zupackage::xml::ParseResult result = zupackage::xml::parse(file);
     file.close();
-    if (const auto* failure = std::get_if<xml::ParseFailure>(&result)) {
-        logSyntaxError(file.fileName().toStdString(), *failure, packageInfoOrigin(k_function, __LINE__));
-        return false;
-    }
-    fill(*m_p, std::get<QDomDocument>(result).documentElement());
-    return true;
+    return zupackage::fillOrLog(*m_p, result, name, zupackage::packageInfoOrigin(k_function, __LINE__));
 }
 
 bool PackageInfo::loadFromManifestFile(const std::string& path)
 {
-    QFile file(xml::fromUtf8(path));
+    QFile file(zupackage::xml::fromUtf8(path));
     return loadFromManifestFile(file);
 }
 

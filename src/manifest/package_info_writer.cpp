@@ -1,4 +1,5 @@
 #include "manifest/manifest_names.hpp"
+#include "manifest/root_attributes.hpp"
 #include "records/behavior_info_p.hpp"
 #include "records/language_info_p.hpp"
 #include "records/package_info_p.hpp"
@@ -9,26 +10,21 @@
 #include <QtCore/QFile>
 #include <QtCore/QTextStream>
 
-namespace zu {
+namespace zupackage {
 
 namespace {
 
-using namespace xml::names;
+using namespace names;
 
-void setRootAttributes(QDomElement& root, const PackageInfo& package)
+void setRootAttributes(QDomElement& root, const zu::PackageInfoPrivate& package)
 {
-    xml::setNonEmptyAttribute(root, k_uuid, package.uuid());
-    xml::setNonEmptyAttribute(root, k_version, package.version());
-    xml::setNonEmptyAttribute(root, k_author, package.author());
-    xml::setNonEmptyAttribute(root, k_organization, package.organization());
-    xml::setNonEmptyAttribute(root, k_date, package.date());
-    xml::setNonEmptyAttribute(root, k_typeVersion, package.typeVersion());
-    xml::setNonEmptyAttribute(root, k_channel, package.channel());
-    xml::setFlag(root, k_installOnlyAtStartup, package.installOnlyAtStartup());
+    for (const auto& attribute : k_rootAttributes<zu::PackageInfoPrivate>)
+        xml::setNonEmptyAttribute(root, attribute.name, package.*attribute.field);
+    xml::setFlag(root, k_installOnlyAtStartup, package.installOnlyAtStartup);
 }
 
 void appendLanguages(QDomDocument& document, QDomElement& root, const std::list<std::string>& languages,
-                     const QString& containerName)
+                     std::string_view containerName)
 {
     if (languages.empty())
         return;
@@ -39,28 +35,28 @@ void appendLanguages(QDomDocument& document, QDomElement& root, const std::list<
     }
 }
 
-void appendContents(QDomDocument& document, QDomElement& root, const PackageInfo& package)
+void appendContents(QDomDocument& document, QDomElement& root, const zu::PackageInfoPrivate& package)
 {
     QDomElement contents = xml::appendElement(document, root, k_contents);
-    for (const BehaviorInfo& behavior : package.behaviors())
-        PrivateRecord::of(behavior).saveToManifest(document, contents);
-    for (const DialogInfo& dialog : package.dialogs())
+    for (const zu::BehaviorInfo& behavior : package.behaviors)
+        zu::PrivateRecord::of(behavior).saveToManifest(document, contents);
+    for (const zu::DialogInfo& dialog : package.dialogs)
         dialog.saveToManifest(document, contents);
-    for (const LanguageInfo& language : package.languages())
-        PrivateRecord::of(language).saveToManifest(document, contents);
+    for (const zu::LanguageInfo& language : package.languages)
+        zu::PrivateRecord::of(language).saveToManifest(document, contents);
 }
 
-void appendRequirements(QDomDocument& document, QDomElement& root, const PackageInfo& package)
+void appendRequirements(QDomDocument& document, QDomElement& root, const zu::PackageInfoPrivate& package)
 {
-    if (package.morvoRequirements().empty() && package.robotRequirements().empty())
+    if (package.morvoRequirements.empty() && package.robotRequirements.empty())
         return;
     QDomElement requirements = xml::appendElement(document, root, k_requirements);
-    for (const MorvoRequirement& morvo : package.morvoRequirements()) {
+    for (const zu::MorvoRequirement& morvo : package.morvoRequirements) {
         QDomElement element = xml::appendElement(document, requirements, k_morvoRequirement);
         xml::setNonEmptyAttribute(element, k_minVersion, morvo.minVersion);
         xml::setNonEmptyAttribute(element, k_maxVersion, morvo.maxVersion);
     }
-    for (const RobotRequirement& robot : package.robotRequirements()) {
+    for (const zu::RobotRequirement& robot : package.robotRequirements) {
         QDomElement element = xml::appendElement(document, requirements, k_robotRequirement);
         xml::setNonEmptyAttribute(element, k_model, robot.model);
         xml::setNonEmptyAttribute(element, k_minHeadVersion, robot.minHeadVersion);
@@ -70,7 +66,7 @@ void appendRequirements(QDomDocument& document, QDomElement& root, const Package
     }
 }
 
-void appendService(QDomDocument& document, QDomElement& services, const PackageService& service)
+void appendService(QDomDocument& document, QDomElement& services, const zu::PackageService& service)
 {
     QDomElement element = xml::appendElement(document, services, k_service);
     xml::setFlag(element, k_autorun, service.autoRun);
@@ -83,37 +79,37 @@ void appendService(QDomDocument& document, QDomElement& services, const PackageS
     }
 }
 
-void appendServices(QDomDocument& document, QDomElement& root, const PackageInfo& package)
+void appendServices(QDomDocument& document, QDomElement& root, const zu::PackageInfoPrivate& package)
 {
-    if (package.services().empty())
+    if (package.services.empty())
         return;
     QDomElement services = xml::appendElement(document, root, k_services);
-    for (const PackageService& service : package.services())
+    for (const zu::PackageService& service : package.services)
         appendService(document, services, service);
 }
 
-void appendExecutableFiles(QDomDocument& document, QDomElement& root, const PackageInfo& package)
+void appendExecutableFiles(QDomDocument& document, QDomElement& root, const zu::PackageInfoPrivate& package)
 {
-    if (package.executableFiles().empty())
+    if (package.executableFiles.empty())
         return;
     QDomElement files = xml::appendElement(document, root, k_executableFiles);
-    for (const std::string& path : package.executableFiles()) {
+    for (const std::string& path : package.executableFiles) {
         QDomElement file = xml::appendElement(document, files, k_file);
         xml::setNonEmptyAttribute(file, k_path, path);
     }
 }
 
-QDomDocument documentOf(const PackageInfo& package)
+QDomDocument documentOf(const zu::PackageInfoPrivate& package)
 {
     QDomDocument document;
     document.appendChild(
         document.createProcessingInstruction(QStringLiteral("xml"), QStringLiteral("version='1.0' encoding='UTF-8'")));
     QDomElement root = xml::appendElement(document, document, k_package);
     setRootAttributes(root, package);
-    xml::appendLangMap(document, root, package.names(), k_names, k_name, k_lang);
-    xml::appendLangMap(document, root, package.descriptions(), k_descriptions, k_description, k_lang);
-    appendLanguages(document, root, package.supportedLanguages(), k_supportedLanguages);
-    appendLanguages(document, root, package.descriptionLanguages(), k_descriptionLanguages);
+    xml::appendLangMap(document, root, package.langToName, k_names, k_name, k_lang);
+    xml::appendLangMap(document, root, package.langToDesc, k_descriptions, k_description, k_lang);
+    appendLanguages(document, root, package.supportedLanguages, k_supportedLanguages);
+    appendLanguages(document, root, package.descriptionLanguages, k_descriptionLanguages);
     appendContents(document, root, package);
     appendRequirements(document, root, package);
     appendServices(document, root, package);
@@ -123,12 +119,19 @@ QDomDocument documentOf(const PackageInfo& package)
 
 } // namespace
 
+} // namespace zupackage
+
+namespace zu {
+
 // Not const: callers are built against this signature.
-std::string PackageInfo::saveToManifestContent() { return xml::toUtf8(documentOf(*this).toString(1)); }
+std::string PackageInfo::saveToManifestContent()
+{
+    return zupackage::xml::toUtf8(zupackage::documentOf(*m_p).toString(1));
+}
 
 bool PackageInfo::saveToManifestFile(QFile& file) const
 {
-    const QDomDocument document = documentOf(*this);
+    const QDomDocument document = zupackage::documentOf(*m_p);
     if (!file.open(QIODevice::WriteOnly))
         return false;
     {
@@ -143,7 +146,7 @@ bool PackageInfo::saveToManifestFile(QFile& file) const
 
 bool PackageInfo::saveToManifestFile(const std::string& path) const
 {
-    QFile file(xml::fromUtf8(path));
+    QFile file(zupackage::xml::fromUtf8(path));
     return saveToManifestFile(file);
 }
 

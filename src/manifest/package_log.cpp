@@ -1,18 +1,18 @@
 #include "manifest/package_log.hpp"
 
-namespace zu {
+namespace zupackage {
 
-log::Category& packageInfoCategory()
+zu::log::Category& packageInfoCategory()
 {
-    static log::Category& category = log::addCategory("zu.package.info");
+    static zu::log::Category& category = zu::log::addCategory("zu.package.info");
     return category;
 }
 
 namespace {
 
 // Whoever lists the categories or sets their thresholds finds this one before the first manifest is read.
-[[maybe_unused]] const log::Category& g_addedAtLoad = packageInfoCategory();
+[[maybe_unused]] const zu::log::Category& g_addedAtLoad = packageInfoCategory();
 
 } // namespace
 
-} // namespace zu
+} // namespace zupackage

@@ -1,6 +1,8 @@
+#include "records/append_once.hpp"
 #include "records/behavior_info_p.hpp"
 #include "records/keyed_texts.hpp"
 #include "records/language_filter.hpp"
+#include "records/permissions.hpp"
 #include "records/value_or_default.hpp"
 
 #include <algorithm>
@@ -12,12 +14,9 @@ const std::string BehaviorInfo::k_permCanRunOnPod = "canRunOnPod";
 const std::string BehaviorInfo::k_permCanSitDown = "canSitDown";
 const std::string BehaviorInfo::k_permCanStandUp = "canStandUp";
 
-BehaviorInfo::BehaviorInfo() : m_p(std::make_unique<BehaviorInfoPrivate>(this)) {}
+BehaviorInfo::BehaviorInfo() : m_p(std::make_unique<BehaviorInfoPrivate>()) {}
 
-BehaviorInfo::BehaviorInfo(const BehaviorInfo& other) : m_p(std::make_unique<BehaviorInfoPrivate>(*other.m_p))
-{
-    m_p->owner.reset(this);
-}
+BehaviorInfo::BehaviorInfo(const BehaviorInfo& other) : m_p(std::make_unique<BehaviorInfoPrivate>(*other.m_p)) {}
 
 BehaviorInfo::~BehaviorInfo() = default;
 
@@ -55,9 +54,15 @@ const std::map<std::string, std::string>& BehaviorInfo::names() const { return m
 
 const std::map<std::string, std::string>& BehaviorInfo::descriptions() const { return m_p->langToDesc; }
 
-std::string BehaviorInfo::name(const std::string& lang) const { return valueOrDefault(m_p->langToName, lang); }
+std::string BehaviorInfo::name(const std::string& lang) const
+{
+    return zupackage::valueOrDefault(m_p->langToName, lang);
+}
 
-std::string BehaviorInfo::description(const std::string& lang) const { return valueOrDefault(m_p->langToDesc, lang); }
+std::string BehaviorInfo::description(const std::string& lang) const
+{
+    return zupackage::valueOrDefault(m_p->langToDesc, lang);
+}
 
 void BehaviorInfo::setName(const std::string& name, const std::string& lang) { m_p->langToName[lang] = name; }
 
@@ -68,7 +73,7 @@ void BehaviorInfo::setDescription(const std::string& description, const std::str
 
 std::list<std::string> BehaviorInfo::tags(const std::string& lang) const
 {
-    return valueOrDefault(m_p->langToTags, lang);
+    return zupackage::valueOrDefault(m_p->langToTags, lang);
 }
 
 const std::map<std::string, std::list<std::string>>& BehaviorInfo::languagesToTags() const { return m_p->langToTags; }
@@ -77,17 +82,17 @@ void BehaviorInfo::addTag(const std::string& tag, const std::string& lang) { m_p
 
 void BehaviorInfo::insertTag(const std::string& tag, const std::string& lang, int position)
 {
-    keyed_texts::insert(m_p->langToTags, tag, lang, position);
+    zupackage::keyed_texts::insert(m_p->langToTags, tag, lang, position);
 }
 
 bool BehaviorInfo::removeTag(const std::string& tag, const std::string& lang)
 {
-    return keyed_texts::remove(m_p->langToTags, tag, lang);
+    return zupackage::keyed_texts::remove(m_p->langToTags, tag, lang);
 }
 
 bool BehaviorInfo::updateTag(const std::string& oldTag, const std::string& newTag, const std::string& lang)
 {
-    return keyed_texts::update(m_p->langToTags, oldTag, newTag, lang);
+    return zupackage::keyed_texts::update(m_p->langToTags, oldTag, newTag, lang);
 }
 
 std::list<std::string> BehaviorInfo::triggerSentences(const std::string& lang) const
@@ -107,18 +112,18 @@ void BehaviorInfo::addTriggerSentence(const std::string& sentence, const std::st
 
 void BehaviorInfo::insertTriggerSentence(const std::string& sentence, const std::string& lang, int position)
 {
-    keyed_texts::insert(m_p->langToTriggerSentences, sentence, lang, position);
+    zupackage::keyed_texts::insert(m_p->langToTriggerSentences, sentence, lang, position);
 }
 
 bool BehaviorInfo::removeTriggerSentence(const std::string& sentence, const std::string& lang)
 {
-    return keyed_texts::remove(m_p->langToTriggerSentences, sentence, lang);
+    return zupackage::keyed_texts::remove(m_p->langToTriggerSentences, sentence, lang);
 }
 
 bool BehaviorInfo::updateTriggerSentence(const std::string& oldSentence, const std::string& newSentence,
                                          const std::string& lang)
 {
-    return keyed_texts::update(m_p->langToTriggerSentences, oldSentence, newSentence, lang);
+    return zupackage::keyed_texts::update(m_p->langToTriggerSentences, oldSentence, newSentence, lang);
 }
 
 std::list<std::string> BehaviorInfo::loadingResponses(const std::string& lang) const
@@ -138,18 +143,18 @@ void BehaviorInfo::addLoadingResponse(const std::string& response, const std::st
 
 void BehaviorInfo::insertLoadingResponse(const std::string& response, const std::string& lang, int position)
 {
-    keyed_texts::insert(m_p->langToLoadingResponses, response, lang, position);
+    zupackage::keyed_texts::insert(m_p->langToLoadingResponses, response, lang, position);
 }
 
 bool BehaviorInfo::removeLoadingResponse(const std::string& response, const std::string& lang)
 {
-    return keyed_texts::remove(m_p->langToLoadingResponses, response, lang);
+    return zupackage::keyed_texts::remove(m_p->langToLoadingResponses, response, lang);
 }
 
 bool BehaviorInfo::updateLoadingResponse(const std::string& oldResponse, const std::string& newResponse,
                                          const std::string& lang)
 {
-    return keyed_texts::update(m_p->langToLoadingResponses, oldResponse, newResponse, lang);
+    return zupackage::keyed_texts::update(m_p->langToLoadingResponses, oldResponse, newResponse, lang);
 }
 
 std::list<std::string> BehaviorInfo::conditions(const std::string& purpose) const
@@ -164,34 +169,30 @@ void BehaviorInfo::addCondition(const std::string& condition, const std::string&
 
 void BehaviorInfo::insertCondition(const std::string& condition, const std::string& purpose, int position)
 {
-    keyed_texts::insert(m_p->purposeToCondition, condition, purpose, position);
+    zupackage::keyed_texts::insert(m_p->purposeToCondition, condition, purpose, position);
 }
 
 bool BehaviorInfo::removeCondition(const std::string& condition, const std::string& purpose)
 {
-    return keyed_texts::remove(m_p->purposeToCondition, condition, purpose);
+    return zupackage::keyed_texts::remove(m_p->purposeToCondition, condition, purpose);
 }
 
 bool BehaviorInfo::updateCondition(const std::string& oldCondition, const std::string& newCondition,
                                    const std::string& purpose)
 {
-    return keyed_texts::update(m_p->purposeToCondition, oldCondition, newCondition, purpose);
+    return zupackage::keyed_texts::update(m_p->purposeToCondition, oldCondition, newCondition, purpose);
 }
 
 std::list<std::string> BehaviorInfo::permissions() const { return m_p->permissions; }
 
 bool BehaviorInfo::addPermission(const std::string& permission)
 {
-    const std::list<std::string>& supported = supportedPermissions();
-    if (hasPermission(permission) || std::find(supported.begin(), supported.end(), permission) == supported.end())
-        return false;
-    m_p->permissions.push_back(permission);
-    return true;
+    return zupackage::addPermission(m_p->permissions, permission);
 }
 
 bool BehaviorInfo::hasPermission(const std::string& permission) const
 {
-    return std::find(m_p->permissions.begin(), m_p->permissions.end(), permission) != m_p->permissions.end();
+    return zupackage::contains(m_p->permissions, permission);
 }
 
 bool BehaviorInfo::removePermission(const std::string& permission)
@@ -214,11 +215,11 @@ const std::list<std::string>& BehaviorInfo::supportedPermissions()
 // NOLINTNEXTLINE(performance-unnecessary-value-param)
 void BehaviorInfo::trimExtraInfo(std::list<std::string> descriptionLanguages, std::list<std::string> supportedLanguages)
 {
-    eraseOtherLanguages(m_p->langToName, descriptionLanguages);
-    eraseOtherLanguages(m_p->langToDesc, descriptionLanguages);
-    eraseOtherLanguages(m_p->langToTags, supportedLanguages);
-    eraseOtherLanguages(m_p->langToLoadingResponses, supportedLanguages);
-    eraseOtherLanguages(m_p->langToTriggerSentences, supportedLanguages);
+    zupackage::eraseOtherLanguages(m_p->langToName, descriptionLanguages);
+    zupackage::eraseOtherLanguages(m_p->langToDesc, descriptionLanguages);
+    zupackage::eraseOtherLanguages(m_p->langToTags, supportedLanguages);
+    zupackage::eraseOtherLanguages(m_p->langToLoadingResponses, supportedLanguages);
+    zupackage::eraseOtherLanguages(m_p->langToTriggerSentences, supportedLanguages);
 }
 
 } // namespace zu

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/owner_pointer.hpp"
+#include "records/field.hpp"
 
 #include <zupackage/behavior_info.hpp>
 
@@ -11,9 +11,6 @@ namespace zu {
 
 struct BehaviorInfoPrivate
 {
-    BehaviorInfoPrivate() = default;
-    explicit BehaviorInfoPrivate(BehaviorInfo* behavior) : owner(behavior) {}
-
     /// Reads a "behaviorContent" element; the record is a fresh one. True, always.
     bool loadFromManifest(const QDomNode& element);
     /// Appends a "behaviorContent" element to `parent`.
@@ -30,8 +27,23 @@ struct BehaviorInfoPrivate
     std::map<std::string, std::list<std::string>> purposeToCondition;
     std::list<std::string> permissions;
     bool userRequestable = false;
-
-    OwnerPointer<BehaviorInfo> owner;
 };
 
 } // namespace zu
+
+namespace zupackage {
+
+template <>
+inline constexpr auto k_fields<zu::BehaviorInfoPrivate> =
+    std::tuple(field("path", &zu::BehaviorInfoPrivate::path), field("nature", &zu::BehaviorInfoPrivate::nature),
+               field("langToName", &zu::BehaviorInfoPrivate::langToName, "names"),
+               field("langToDesc", &zu::BehaviorInfoPrivate::langToDesc, "descriptions"),
+               reserved("categories", &zu::BehaviorInfoPrivate::categories),
+               field("langToTags", &zu::BehaviorInfoPrivate::langToTags, "tags"),
+               field("langToTriggerSentences", &zu::BehaviorInfoPrivate::langToTriggerSentences, "triggerSentences"),
+               field("langToLoadingResponses", &zu::BehaviorInfoPrivate::langToLoadingResponses, "loadingResponses"),
+               field("purposeToCondition", &zu::BehaviorInfoPrivate::purposeToCondition, "conditions"),
+               field("permissions", &zu::BehaviorInfoPrivate::permissions),
+               field("userRequestable", &zu::BehaviorInfoPrivate::userRequestable));
+
+} // namespace zupackage

@@ -25,7 +25,7 @@ void DialogInfo::setTypeVersion(const std::string& typeVersion) { m_p->typeVersi
 
 const std::map<std::string, std::string>& DialogInfo::topics() const { return m_p->topics; }
 
-std::string DialogInfo::topic(const std::string& lang) const { return valueOrDefault(m_p->topics, lang); }
+std::string DialogInfo::topic(const std::string& lang) const { return zupackage::valueOrDefault(m_p->topics, lang); }
 
 void DialogInfo::setTopic(const std::string& lang, const std::string& path) { m_p->topics[lang] = path; }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "records/field.hpp"
+
 #include <zupackage/dialog_info.hpp>
 
 namespace zu {
@@ -12,3 +14,13 @@ struct DialogInfoPrivate
 };
 
 } // namespace zu
+
+namespace zupackage {
+
+template <>
+inline constexpr auto
+    k_fields<zu::DialogInfoPrivate> = std::tuple(field("topicName", &zu::DialogInfoPrivate::topicName),
+                                                 field("typeVersion", &zu::DialogInfoPrivate::typeVersion),
+                                                 field("topics", &zu::DialogInfoPrivate::topics));
+
+} // namespace zupackage

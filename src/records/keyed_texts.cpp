@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace zu::keyed_texts {
+namespace zupackage::keyed_texts {
 
 void insert(KeyedTexts& texts, const std::string& value, const std::string& key, int position)
 {
@@ -36,4 +36,4 @@ bool update(KeyedTexts& texts, const std::string& oldValue, const std::string& n
     return true;
 }
 
-} // namespace zu::keyed_texts
+} // namespace zupackage::keyed_texts

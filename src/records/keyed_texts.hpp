@@ -5,7 +5,7 @@
 #include <string>
 
 /// The operations that a behavior's four maps of lists share: tags, trigger sentences, loading responses, conditions.
-namespace zu::keyed_texts {
+namespace zupackage::keyed_texts {
 
 using KeyedTexts = std::map<std::string, std::list<std::string>>;
 
@@ -13,4 +13,4 @@ void insert(KeyedTexts& texts, const std::string& value, const std::string& key,
 bool remove(KeyedTexts& texts, const std::string& value, const std::string& key);
 bool update(KeyedTexts& texts, const std::string& oldValue, const std::string& newValue, const std::string& key);
 
-} // namespace zu::keyed_texts
+} // namespace zupackage::keyed_texts

@@ -4,7 +4,7 @@
 #include <list>
 #include <string>
 
-namespace zu {
+namespace zupackage {
 
 /// Whether one of `kept` is a prefix of `lang`, byte by byte.
 inline bool keepsLanguage(const std::list<std::string>& kept, const std::string& lang)
@@ -21,4 +21,4 @@ void eraseOtherLanguages(LanguageMap& map, const std::list<std::string>& kept)
         entry = keepsLanguage(kept, entry->first) ? std::next(entry) : map.erase(entry);
 }
 
-} // namespace zu
+} // namespace zupackage

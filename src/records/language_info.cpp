@@ -3,12 +3,9 @@
 
 namespace zu {
 
-LanguageInfo::LanguageInfo() : m_p(std::make_unique<LanguageInfoPrivate>(this)) {}
+LanguageInfo::LanguageInfo() : m_p(std::make_unique<LanguageInfoPrivate>()) {}
 
-LanguageInfo::LanguageInfo(const LanguageInfo& other) : m_p(std::make_unique<LanguageInfoPrivate>(*other.m_p))
-{
-    m_p->owner.reset(this);
-}
+LanguageInfo::LanguageInfo(const LanguageInfo& other) : m_p(std::make_unique<LanguageInfoPrivate>(*other.m_p)) {}
 
 LanguageInfo::~LanguageInfo() = default;
 
@@ -34,7 +31,10 @@ std::string LanguageInfo::locale() const { return m_p->locale; }
 
 void LanguageInfo::setLocale(const std::string& locale) { m_p->locale = locale; }
 
-std::string LanguageInfo::name(const std::string& lang) const { return valueOrDefault(m_p->langToName, lang); }
+std::string LanguageInfo::name(const std::string& lang) const
+{
+    return zupackage::valueOrDefault(m_p->langToName, lang);
+}
 
 void LanguageInfo::setName(const std::string& name, const std::string& lang) { m_p->langToName[lang] = name; }
 

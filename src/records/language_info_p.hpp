@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/owner_pointer.hpp"
+#include "records/field.hpp"
 
 #include <zupackage/language_info.hpp>
 
@@ -13,9 +13,6 @@ namespace zu {
 
 struct LanguageInfoPrivate
 {
-    LanguageInfoPrivate() = default;
-    explicit LanguageInfoPrivate(LanguageInfo* language) : owner(language) {}
-
     /// Reads a "languageContent" element; the record is a fresh one. True, always.
     bool loadFromManifest(const QDomNode& element);
     /// Appends a "languageContent" element to `parent`.
@@ -26,8 +23,16 @@ struct LanguageInfoPrivate
     std::string engineVersion;
     std::string locale;
     std::map<std::string, std::string> langToName;
-
-    OwnerPointer<LanguageInfo> owner;
 };
 
 } // namespace zu
+
+namespace zupackage {
+
+template <>
+inline constexpr auto k_fields<zu::LanguageInfoPrivate> = std::tuple(
+    field("path", &zu::LanguageInfoPrivate::path), field("engineName", &zu::LanguageInfoPrivate::engineName),
+    field("engineVersion", &zu::LanguageInfoPrivate::engineVersion), field("locale", &zu::LanguageInfoPrivate::locale),
+    field("langToName", &zu::LanguageInfoPrivate::langToName, "names"));
+
+} // namespace zupackage

@@ -1,20 +1,10 @@
+#include "records/append_once.hpp"
 #include "records/language_filter.hpp"
 #include "records/package_info_p.hpp"
 
-#include <algorithm>
 #include <utility>
 
 namespace zu {
-
-namespace {
-
-void appendOnce(std::list<std::string>& languages, const std::string& lang)
-{
-    if (std::find(languages.begin(), languages.end(), lang) == languages.end())
-        languages.push_back(lang);
-}
-
-} // namespace
 
 PackageInfo::PackageInfo() : m_p(std::make_unique<PackageInfoPrivate>()) {}
 
@@ -100,7 +90,10 @@ void PackageInfo::clearNames() { m_p->langToName.clear(); }
 
 const std::list<std::string>& PackageInfo::supportedLanguages() const { return m_p->supportedLanguages; }
 
-void PackageInfo::addSupportedLanguage(const std::string& lang) { appendOnce(m_p->supportedLanguages, lang); }
+void PackageInfo::addSupportedLanguage(const std::string& lang)
+{
+    zupackage::appendOnce(m_p->supportedLanguages, lang);
+}
 
 void PackageInfo::removeSupportedLanguage(const std::string& lang) { m_p->supportedLanguages.remove(lang); }
 
@@ -108,7 +101,10 @@ void PackageInfo::clearSupportedLanguages() { m_p->supportedLanguages.clear(); }
 
 const std::list<std::string>& PackageInfo::descriptionLanguages() const { return m_p->descriptionLanguages; }
 
-void PackageInfo::addDescriptionLanguage(const std::string& lang) { appendOnce(m_p->descriptionLanguages, lang); }
+void PackageInfo::addDescriptionLanguage(const std::string& lang)
+{
+    zupackage::appendOnce(m_p->descriptionLanguages, lang);
+}
 
 void PackageInfo::removeDescriptionLanguage(const std::string& lang) { m_p->descriptionLanguages.remove(lang); }
 
@@ -164,8 +160,8 @@ void PackageInfo::addExecutableFile(const std::string& path) { m_p->executableFi
 
 void PackageInfo::trimExtraInfo()
 {
-    eraseOtherLanguages(m_p->langToName, m_p->descriptionLanguages);
-    eraseOtherLanguages(m_p->langToDesc, m_p->descriptionLanguages);
+    zupackage::eraseOtherLanguages(m_p->langToName, m_p->descriptionLanguages);
+    zupackage::eraseOtherLanguages(m_p->langToDesc, m_p->descriptionLanguages);
     for (BehaviorInfo& behavior : m_p->behaviors)
         behavior.trimExtraInfo(m_p->descriptionLanguages, m_p->supportedLanguages);
 }

@@ -3,7 +3,7 @@
 #include <map>
 #include <string>
 
-namespace zu {
+namespace zupackage {
 
 /// A copy of what stands under exactly `key`; a default value when nothing does.
 template <class Value>
@@ -13,4 +13,4 @@ Value valueOrDefault(const std::map<std::string, Value>& map, const std::string&
     return found == map.end() ? Value() : found->second;
 }
 
-} // namespace zu
+} // namespace zupackage

@@ -1,5 +1,5 @@
-// What the library makes known to the host framework's type system: the names and the order of members by which records
-// travel. Other programs hold values of these types, so that neither may change.
+// What the library makes known to the host framework's type system: the names by which records travel, with the members of
+// their tables. Other programs hold values of these types, so that no name may change.
 #include "types/type_registration.hpp"
 
 #include "records/behavior_info_p.hpp"
@@ -17,95 +17,46 @@
 #include <algorithm>
 #include <iterator>
 
-namespace zu {
+namespace zupackage {
+
+// Known to the type system alone: no wire form carries it.
+template <>
+inline constexpr auto k_fields<zu::WebInfo> = std::tuple(field("path", &zu::WebInfo::path));
 
 namespace {
 
+template <class Record>
+std::vector<zu::Member<Record>> membersOf()
+{
+    return std::apply(
+        [](const auto&... field) {
+            return std::vector<zu::Member<Record>>{{field.member, field.pointer}...};
+        },
+        k_fields<Record>);
+}
+
+/// Registers a class with a private record, and the record.
 template <class Handle>
-auto* recordOf(Handle* handle)
+bool registerHandle(const char* handleName, const char* recordName)
 {
-    return &PrivateRecord::of(*handle);
-}
-
-bool registerDialogInfo()
-{
-    using Record = DialogInfoPrivate;
-    const bool record = registerStruct<Record>(
-        "::zu::DialogInfoPrivate",
-        {{"topicName", &Record::topicName}, {"typeVersion", &Record::typeVersion}, {"topics", &Record::topics}});
-    return registerBouncer<DialogInfo>("::zu::DialogInfo", &recordOf<DialogInfo>) && record;
-}
-
-bool registerBehaviorInfo()
-{
-    using Record = BehaviorInfoPrivate;
-    const bool record = registerStruct<Record>("::zu::BehaviorInfoPrivate",
-                                               {{"path", &Record::path},
-                                                {"nature", &Record::nature},
-                                                {"langToName", &Record::langToName},
-                                                {"langToDesc", &Record::langToDesc},
-                                                {"categories", &Record::categories},
-                                                {"langToTags", &Record::langToTags},
-                                                {"langToTriggerSentences", &Record::langToTriggerSentences},
-                                                {"langToLoadingResponses", &Record::langToLoadingResponses},
-                                                {"purposeToCondition", &Record::purposeToCondition},
-                                                {"permissions", &Record::permissions},
-                                                {"userRequestable", &Record::userRequestable}});
-    return registerBouncer<BehaviorInfo>("::zu::BehaviorInfo", &recordOf<BehaviorInfo>) && record;
-}
-
-bool registerLanguageInfo()
-{
-    using Record = LanguageInfoPrivate;
-    // Alone in having no leading "::": programs that look the record up know it so.
-    const bool record = registerStruct<Record>("zu::LanguageInfoPrivate", {{"path", &Record::path},
-                                                                           {"engineName", &Record::engineName},
-                                                                           {"engineVersion", &Record::engineVersion},
-                                                                           {"locale", &Record::locale},
-                                                                           {"langToName", &Record::langToName}});
-    return registerBouncer<LanguageInfo>("::zu::LanguageInfo", &recordOf<LanguageInfo>) && record;
-}
-
-bool registerPackageInfo()
-{
-    using Record = PackageInfoPrivate;
-    // Without installOnlyAtStartup: it does not cross the type system.
-    const bool record =
-        registerStruct<Record>("::zu::PackageInfoPrivate", {{"uuid", &Record::uuid},
-                                                            {"path", &Record::path},
-                                                            {"version", &Record::version},
-                                                            {"channel", &Record::channel},
-                                                            {"author", &Record::author},
-                                                            {"organization", &Record::organization},
-                                                            {"date", &Record::date},
-                                                            {"typeVersion", &Record::typeVersion},
-                                                            {"langToName", &Record::langToName},
-                                                            {"langToDesc", &Record::langToDesc},
-                                                            {"supportedLanguages", &Record::supportedLanguages},
-                                                            {"behaviors", &Record::behaviors},
-                                                            {"languages", &Record::languages},
-                                                            {"installer", &Record::installer},
-                                                            {"robotRequirements", &Record::robotRequirements},
-                                                            {"morvoRequirements", &Record::morvoRequirements},
-                                                            {"services", &Record::services},
-                                                            {"executableFiles", &Record::executableFiles},
-                                                            {"dialogs", &Record::dialogs},
-                                                            {"descriptionLanguages", &Record::descriptionLanguages}});
-    return registerBouncer<PackageInfo>("::zu::PackageInfo", &recordOf<PackageInfo>) && record;
+    using Record = std::decay_t<decltype(zu::PrivateRecord::of(std::declval<Handle&>()))>;
+    const bool record = zu::registerStruct<Record>(recordName, membersOf<Record>());
+    return zu::registerBouncer<Handle>(handleName, [](Handle* handle) { return &zu::PrivateRecord::of(*handle); }) &&
+           record;
 }
 
 bool registerVariant()
 {
     static const auto& type = *new VX::VXValueType;
-    return registerType(TypeInfo::of<VX::VXValue>(), &type);
+    return zu::registerType(zu::TypeInfo::of<VX::VXValue>(), &type);
 }
 
 /// The interface of a struct, made known under its class name.
-template <class T>
-const TypeInterface* known(std::string className, std::vector<Member<T>> members)
+template <class Record>
+const zu::TypeInterface* known(const char* className)
 {
-    const StructTypeInterface* type = makeStruct<T>(std::move(className), std::move(members)).release();
-    registerStruct(type);
+    const zu::StructTypeInterface* type = zu::makeStruct<Record>(className, membersOf<Record>()).release();
+    zu::registerStruct(type);
     return type;
 }
 
@@ -115,44 +66,40 @@ const TypeInterface* known(std::string className, std::vector<Member<T>> members
 
 bool registerTypes()
 {
-    const bool registered[] = {registerDialogInfo(), registerBehaviorInfo(), registerLanguageInfo(),
-                               registerPackageInfo(), registerVariant()};
+    const bool registered[] = {registerHandle<zu::DialogInfo>("::zu::DialogInfo", "::zu::DialogInfoPrivate"),
+                               registerHandle<zu::BehaviorInfo>("::zu::BehaviorInfo", "::zu::BehaviorInfoPrivate"),
+                               // This record's name alone has no leading "::": programs that look it up know it so.
+                               registerHandle<zu::LanguageInfo>("::zu::LanguageInfo", "zu::LanguageInfoPrivate"),
+                               registerHandle<zu::PackageInfo>("::zu::PackageInfo", "::zu::PackageInfoPrivate"),
+                               registerVariant()};
     return std::all_of(std::begin(registered), std::end(registered), [](bool one) { return one; });
 }
 
+} // namespace zupackage
+
+namespace zu {
+
 const TypeInterface* NativeType<RobotRequirement, void>::make()
 {
-    using Record = RobotRequirement;
-    static const TypeInterface* type =
-        known<Record>("::zu::RobotRequirement", {{"model", &Record::model},
-                                                 {"minHeadVersion", &Record::minHeadVersion},
-                                                 {"maxHeadVersion", &Record::maxHeadVersion},
-                                                 {"minBodyVersion", &Record::minBodyVersion},
-                                                 {"maxBodyVersion", &Record::maxBodyVersion}});
+    static const TypeInterface* type = zupackage::known<RobotRequirement>("::zu::RobotRequirement");
     return type;
 }
 
 const TypeInterface* NativeType<MorvoRequirement, void>::make()
 {
-    using Record = MorvoRequirement;
-    static const TypeInterface* type = known<Record>(
-        "::zu::MorvoRequirement", {{"minVersion", &Record::minVersion}, {"maxVersion", &Record::maxVersion}});
+    static const TypeInterface* type = zupackage::known<MorvoRequirement>("::zu::MorvoRequirement");
     return type;
 }
 
 const TypeInterface* NativeType<PackageService, void>::make()
 {
-    using Record = PackageService;
-    static const TypeInterface* type = known<Record>("::zu::PackageService", {{"execStart", &Record::execStart},
-                                                                              {"name", &Record::name},
-                                                                              {"autoRun", &Record::autoRun},
-                                                                              {"envVars", &Record::envVars}});
+    static const TypeInterface* type = zupackage::known<PackageService>("::zu::PackageService");
     return type;
 }
 
 const TypeInterface* NativeType<WebInfo, void>::make()
 {
-    static const TypeInterface* type = known<WebInfo>("::zu::WebInfo", {{"path", &WebInfo::path}});
+    static const TypeInterface* type = zupackage::known<WebInfo>("::zu::WebInfo");
     return type;
 }
 

@@ -12,11 +12,11 @@
 #include <stdexcept>
 #include <utility>
 
-namespace zu {
+namespace zupackage {
 
 namespace {
 
-using namespace xml::names;
+using namespace names;
 
 keys::Texts textsByLanguage(const QDomNode& element)
 {
@@ -25,9 +25,9 @@ keys::Texts textsByLanguage(const QDomNode& element)
     return texts;
 }
 
-std::vector<PackageService> services(const QDomNode& element)
+std::vector<zu::PackageService> services(const QDomNode& element)
 {
-    std::vector<PackageService> services;
+    std::vector<zu::PackageService> services;
     readServices(element, services);
     return services;
 }
@@ -57,7 +57,7 @@ std::vector<std::string> supportedLanguages(const QDomNode& element)
 template <class T>
 void store(T value, keys::Key<T> key, keys::Values& values)
 {
-    values[key.name] = AnyValue::from(std::move(value));
+    values[key.name] = zu::AnyValue::from(std::move(value));
 }
 
 template <class Record>
@@ -70,30 +70,30 @@ void storeUnlessEmpty(const std::list<Record>& records, keys::Key<std::vector<Re
 keys::Values contents(const QDomNode& element)
 {
     // Lists first: a growing vector would copy the records again and again.
-    std::list<BehaviorInfo> behaviors;
-    std::list<DialogInfo> dialogs;
-    std::list<LanguageInfo> languages;
+    std::list<zu::BehaviorInfo> behaviors;
+    std::list<zu::DialogInfo> dialogs;
+    std::list<zu::LanguageInfo> languages;
     readContents(element, behaviors, dialogs, languages);
     keys::Values contents;
     storeUnlessEmpty(behaviors, keys::k_behaviors, contents);
     storeUnlessEmpty(dialogs, keys::k_dialogs, contents);
     storeUnlessEmpty(languages, keys::k_languages, contents);
     for (const QDomNode& child : xml::children(element))
-        if (child.nodeName() == k_webContent)
-            store(WebInfo{xml::attribute(child, k_path)}, keys::k_web, contents);
+        if (xml::name(child) == k_webContent)
+            store(zu::WebInfo{xml::attribute(child, k_path)}, keys::k_web, contents);
     return contents;
 }
 
 /// The section of that name, which stores what `read` gives.
 template <class T>
-Section section(const QString& name, T (*read)(const QDomNode& element), keys::Key<T> key, keys::Values& elements)
+Section section(std::string_view name, T (*read)(const QDomNode& element), keys::Key<T> key, keys::Values& elements)
 {
     return {name, [read, key, &elements](const QDomNode& element) { store(read(element), key, elements); }};
 }
 
-PackageInfo2 packageFrom(const QDomNode& root)
+zu::PackageInfo2 packageFrom(const QDomNode& root)
 {
-    PackageInfo2 package;
+    zu::PackageInfo2 package;
     readRootAttributes(root, package);
     keys::Values& elements = package.elements;
     readSections(root, {section(k_names, &textsByLanguage, keys::k_names, elements),
@@ -108,13 +108,12 @@ PackageInfo2 packageFrom(const QDomNode& root)
 
 [[noreturn]] void fail(const std::string& message, int line)
 {
-    log::write(packageInfoCategory(), log::Level::Error, packageInfoOrigin("zu::loadManifest", line), message);
+    zu::log::write(packageInfoCategory(), zu::log::Level::Error, packageInfoOrigin("zu::loadManifest", line), message);
     throw std::runtime_error(message);
 }
 
-} // namespace
-
-PackageInfo2 loadManifest(const std::string& path)
+/// Opens, parses and reads the file of that name.
+zu::PackageInfo2 load(const std::string& path)
 {
     QFile file(xml::fromUtf8(path));
     if (!file.open(QIODevice::ReadOnly))
@@ -127,5 +126,13 @@ PackageInfo2 loadManifest(const std::string& path)
              __LINE__);
     return packageFrom(std::get<QDomDocument>(result).documentElement());
 }
+
+} // namespace
+
+} // namespace zupackage
+
+namespace zu {
+
+PackageInfo2 loadManifest(const std::string& path) { return zupackage::load(path); }
 
 } // namespace zu

@@ -1,3 +1,5 @@
+#include "variant/vxfailure.hpp"
+
 #include <zupackage/vxvalue.hpp>
 
 #include <cstdio>
@@ -8,7 +10,6 @@ namespace VX {
 
 namespace {
 
-constexpr char k_module[] = "VXValue";
 constexpr char k_file[] = "src/vxvalue.cpp";
 
 // Room that a value gets when it becomes one of these types: callers fill it piece by piece.
@@ -29,16 +30,7 @@ std::string errorText(const std::string& module, const std::string& method, cons
     return text + "\n\t" + message;
 }
 
-[[noreturn]] void fail(const std::string& method, const std::string& message, int line)
-{
-    throw VXError(k_module, method, message, k_file, line);
-}
-
-void assertThat(bool condition, int line)
-{
-    if (!condition)
-        fail("Assert failed", std::string(k_file) + ":" + std::to_string(line), line);
-}
+constexpr SourcePlace here(int line) { return {k_file, line}; }
 
 std::string typeErrorMessage(const VXValue& value, const std::string& expected)
 {
@@ -72,7 +64,7 @@ VXValue::VXValue(const TVXValueString& value) : m_type(Type::String) { m_value.s
 
 VXValue::VXValue(const char* value)
 {
-    assertThat(value != nullptr, __LINE__);
+    assertThat(value != nullptr, here(__LINE__));
     m_value.string = new TVXValueString(value);
     m_type = Type::String;
 }
@@ -123,7 +115,7 @@ std::string VXValue::TypeToString(Type type)
     case Type::Binary:
         return "Binary";
     }
-    fail("TypeToString", "Unknown type: " + std::to_string(static_cast<std::uint32_t>(type)), __LINE__);
+    fail("TypeToString", "Unknown type: " + std::to_string(static_cast<std::uint32_t>(type)), here(__LINE__));
 }
 
 void VXValue::resizeArray(int size)
@@ -145,14 +137,14 @@ std::size_t VXValue::count() const
     case Type::Float:
         return 0;
     case Type::Array:
-        assertThat(m_value.array != nullptr, __LINE__);
+        assertThat(m_value.array != nullptr, here(__LINE__));
         return m_value.array->size();
     case Type::String:
-        assertThat(m_value.string != nullptr, __LINE__);
+        assertThat(m_value.string != nullptr, here(__LINE__));
         return m_value.string->size();
     case Type::Object:
     case Type::Binary:
-        assertThat(m_value.bytes != nullptr, __LINE__);
+        assertThat(m_value.bytes != nullptr, here(__LINE__));
         return m_value.bytes->size();
     }
     return 0;
@@ -193,7 +185,7 @@ VXValue::operator bool() const
     case Type::Binary:
         return count() != 0;
     }
-    fail("const bool() const", "Cannot cast to bool an VXValue of invalid type.", __LINE__);
+    fail("const bool() const", "Cannot cast to bool an VXValue of invalid type.", here(__LINE__));
 }
 
 VXValue::operator const TVXValueString&() const
@@ -202,7 +194,7 @@ VXValue::operator const TVXValueString&() const
         becomeString();
     xAssertType(Type::String);
     // A Float has passed, and has no text to show.
-    assertThat(m_type == Type::String, __LINE__);
+    assertThat(m_type == Type::String, here(__LINE__));
     return *m_value.string;
 }
 
@@ -228,7 +220,7 @@ void VXValue::xAssertType(Type type) const
         return;
     const std::string expected = TypeToString(type); // refuses a number that is no type, whatever the value is
     if (type != Type::Int && m_type != Type::Float)
-        fail("xAssertType: type error", typeErrorMessage(*this, expected), __LINE__);
+        fail("xAssertType: type error", typeErrorMessage(*this, expected), here(__LINE__));
 }
 
 void VXValue::xAssertCompatibleType(Type type)
@@ -237,7 +229,7 @@ void VXValue::xAssertCompatibleType(Type type)
         return;
     const std::string expected = TypeToString(type); // refuses a number that is no type
     if (m_type != Type::Invalid)
-        fail("xAssertCompatibleType: type error", typeErrorMessage(*this, expected), __LINE__);
+        fail("xAssertCompatibleType: type error", typeErrorMessage(*this, expected), here(__LINE__));
     Payload fresh;
     if (type == Type::Array)
         fresh.array = withRoom<Array>(k_arrayRoom).release();
@@ -254,12 +246,12 @@ void VXValue::xAssertArraySize(int size) const { assertSize(size); }
 void VXValue::assertSize(std::int64_t size) const
 {
     if (m_type != Type::Array)
-        fail("xAssertArraySize", "try to use a " + TypeToString(m_type) + " like an array", __LINE__);
+        fail("xAssertArraySize", "try to use a " + TypeToString(m_type) + " like an array", here(__LINE__));
     if (this->size() < size)
         fail("xAssertArraySize",
              "The array has a size of " + std::to_string(this->size()) + " and you want it to be of size " +
                  std::to_string(size),
-             __LINE__);
+             here(__LINE__));
 }
 
 } // namespace VX

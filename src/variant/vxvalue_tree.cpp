@@ -1,6 +1,8 @@
 // How a value of any depth is copied and destroyed: without a call for each level, because whoever builds a value picks
 // its depth.
 
+#include "variant/vxfailure.hpp"
+
 #include <zupackage/vxvalue.hpp>
 
 #include <utility>
@@ -9,17 +11,12 @@ namespace VX {
 
 namespace {
 
-[[noreturn]] void failAssertion(int line)
-{
-    throw VXError("VXValue", "Assert failed", "src/vxvalue_tree.cpp:" + std::to_string(line), "src/vxvalue_tree.cpp",
-                  line);
-}
+constexpr SourcePlace here(int line) { return {"src/vxvalue_tree.cpp", line}; }
 
 template <class Owned>
-Owned* copyOf(const Owned* source, int line)
+Owned* copyOf(const Owned* source, const SourcePlace& place)
 {
-    if (source == nullptr)
-        failAssertion(line);
+    assertThat(source != nullptr, place);
     return new Owned(*source);
 }
 
@@ -72,11 +69,11 @@ void VXValue::copyLeaf(const VXValue& other)
 {
     switch (other.m_type) {
     case Type::String:
-        m_value.string = copyOf(other.m_value.string, __LINE__);
+        m_value.string = copyOf(other.m_value.string, here(__LINE__));
         break;
     case Type::Object:
     case Type::Binary:
-        m_value.bytes = copyOf(other.m_value.bytes, __LINE__);
+        m_value.bytes = copyOf(other.m_value.bytes, here(__LINE__));
         break;
     case Type::Array:
     case Type::Invalid:
@@ -97,8 +94,7 @@ void VXValue::copyTree(const VXValue& other)
     while (!pending.empty()) {
         const auto [source, target] = pending.back();
         pending.pop_back();
-        if (source->m_value.array == nullptr)
-            failAssertion(__LINE__);
+        assertThat(source->m_value.array != nullptr, here(__LINE__));
         const Array& elements = *source->m_value.array;
         target->m_value.array = new Array(elements.size());
         target->m_type = Type::Array;

@@ -1,6 +1,7 @@
 #include "variant/vxvalueconverter.hpp"
 
-#include "wire/wire_form.hpp"
+#include "variant/vxarrays.hpp"
+#include "variant/vxfailure.hpp"
 
 #include <zu/conversion.hpp>
 #include <zu/dispatch.hpp>
@@ -12,10 +13,8 @@ namespace {
 
 [[noreturn]] void refuse(const std::string& message, int line)
 {
-    throw VXError("VXValue", "conversion", message, "src/vxvalueconverter.cpp", line);
+    fail("conversion", message, {"src/vxvalueconverter.cpp", line});
 }
-
-using zu::wire_form::pairOf;
 
 class Converter : public zu::TypeVisitor
 {

@@ -1,25 +1,20 @@
-#include "records/dialog_info_p.hpp"
 #include "wire/wire_form.hpp"
+
+namespace zupackage::wire {
+
+void decode(const VXValue& value, zu::DialogInfoPrivate& record)
+{
+    constexpr int k_pairs = std::tuple_size_v<decltype(k_fields<zu::DialogInfoPrivate>)>;
+    if (value.type() == VXValue::Type::Array && value.size() == k_pairs)
+        decodePairs(value, k_pairs, record);
+}
+
+} // namespace zupackage::wire
 
 namespace zu {
 
-using VX::VXValue;
+DialogInfo::DialogInfo(const VX::VXValue& value) : DialogInfo() { zupackage::wire::decode(value, *m_p); }
 
-DialogInfo::DialogInfo(const VXValue& value) : DialogInfo()
-{
-    using namespace wire_form;
-    if (value.type() != VXValue::Type::Array || value.size() != 3)
-        return;
-    decode(pairValue(value, 0), m_p->topicName);
-    decode(pairValue(value, 1), m_p->typeVersion);
-    decode(pairValue(value, 2), m_p->topics);
-}
-
-VXValue DialogInfo::toVXValue() const
-{
-    using namespace wire_form;
-    return arrayOf({pairOf("topicName", encoded(m_p->topicName)), pairOf("typeVersion", encoded(m_p->typeVersion)),
-                    pairOf("topics", encoded(m_p->topics))});
-}
+VX::VXValue DialogInfo::toVXValue() const { return zupackage::wire::encoded(*this); }
 
 } // namespace zu

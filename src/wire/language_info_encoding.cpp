@@ -1,27 +1,22 @@
-#include "records/language_info_p.hpp"
 #include "wire/wire_form.hpp"
+
+namespace zupackage::wire {
+
+void decode(const VXValue& value, zu::LanguageInfoPrivate& record)
+{
+    constexpr int k_pairs = std::tuple_size_v<decltype(k_fields<zu::LanguageInfoPrivate>)>;
+    decodePairs(value, k_pairs, record);
+}
+
+} // namespace zupackage::wire
 
 namespace zu {
 
-using VX::VXValue;
+LanguageInfo::LanguageInfo(const VX::VXValue& value) : LanguageInfo() { zupackage::wire::decode(value, *m_p); }
 
-LanguageInfo::LanguageInfo(const VXValue& value) : LanguageInfo()
+void LanguageInfo::toVXValue(VX::VXValue& value) const
 {
-    using namespace wire_form;
-    decode(pairValue(value, 0), m_p->path);
-    decode(pairValue(value, 1), m_p->engineName);
-    decode(pairValue(value, 2), m_p->engineVersion);
-    decode(pairValue(value, 3), m_p->locale);
-    decode(pairValue(value, 4), m_p->langToName);
-}
-
-void LanguageInfo::toVXValue(VXValue& value) const
-{
-    using namespace wire_form;
-    store(arrayOf({pairOf("path", encoded(m_p->path)), pairOf("engineName", encoded(m_p->engineName)),
-                   pairOf("engineVersion", encoded(m_p->engineVersion)), pairOf("locale", encoded(m_p->locale)),
-                   pairOf("names", encoded(m_p->langToName))}),
-          value);
+    zupackage::wire::store(zupackage::wire::encoded(*this), value);
 }
 
 } // namespace zu

@@ -3,14 +3,14 @@
 #include "xml/characters.hpp"
 #include "xml/nodes.hpp"
 
-namespace zu::xml {
+namespace zupackage::xml {
 
 namespace {
 
 QString writable(const std::string& text) { return withoutForbiddenCharacters(fromUtf8(text)); }
 
-QDomElement appendKeyed(QDomDocument& document, QDomNode& container, const QString& name, const QString& attributeName,
-                        const std::string& key)
+QDomElement appendKeyed(QDomDocument& document, QDomNode& container, std::string_view name,
+                        std::string_view attributeName, const std::string& key)
 {
     QDomElement child = appendElement(document, container, name);
     setNonEmptyAttribute(child, attributeName, key);
@@ -19,25 +19,25 @@ QDomElement appendKeyed(QDomDocument& document, QDomNode& container, const QStri
 
 } // namespace
 
-QDomElement appendElement(QDomDocument& document, QDomNode& parent, const QString& name)
+QDomElement appendElement(QDomDocument& document, QDomNode& parent, std::string_view name)
 {
-    return parent.appendChild(document.createElement(name)).toElement();
+    return parent.appendChild(document.createElement(fromUtf8(name))).toElement();
 }
 
-void setAttribute(QDomElement& element, const QString& name, const std::string& value)
+void setAttribute(QDomElement& element, std::string_view name, const std::string& value)
 {
-    element.setAttribute(name, writable(value));
+    element.setAttribute(fromUtf8(name), writable(value));
 }
 
-void setNonEmptyAttribute(QDomElement& element, const QString& name, const std::string& value)
+void setNonEmptyAttribute(QDomElement& element, std::string_view name, const std::string& value)
 {
     if (!value.empty())
         setAttribute(element, name, value);
 }
 
-void setFlag(QDomElement& element, const QString& name, bool value)
+void setFlag(QDomElement& element, std::string_view name, bool value)
 {
-    element.setAttribute(name, value ? QStringLiteral("true") : QStringLiteral("false"));
+    element.setAttribute(fromUtf8(name), value ? QStringLiteral("true") : QStringLiteral("false"));
 }
 
 void appendText(QDomDocument& document, QDomElement& element, const std::string& text)
@@ -59,7 +59,7 @@ void appendCData(QDomDocument& document, QDomElement& element, const std::string
 }
 
 void appendLangMap(QDomDocument& document, QDomNode& parent, const std::map<std::string, std::string>& texts,
-                   const QString& containerName, const QString& childName, const QString& attributeName)
+                   std::string_view containerName, std::string_view childName, std::string_view attributeName)
 {
     if (texts.empty())
         return;
@@ -73,8 +73,8 @@ void appendLangMap(QDomDocument& document, QDomNode& parent, const std::map<std:
 }
 
 void appendLangListMap(QDomDocument& document, QDomNode& parent,
-                       const std::map<std::string, std::list<std::string>>& texts, const QString& containerName,
-                       const QString& childName, const QString& attributeName, bool asCData)
+                       const std::map<std::string, std::list<std::string>>& texts, std::string_view containerName,
+                       std::string_view childName, std::string_view attributeName, bool asCData)
 {
     if (texts.empty())
         return;
@@ -88,4 +88,4 @@ void appendLangListMap(QDomDocument& document, QDomNode& parent,
         }
 }
 
-} // namespace zu::xml
+} // namespace zupackage::xml

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace zu::xml {
+namespace zupackage::xml {
 
 namespace {
 
@@ -60,4 +60,4 @@ bool isElementName(const QString& name)
     return !name.isEmpty() && beginsName(name.front()) && std::all_of(name.begin() + 1, name.end(), continuesName);
 }
 
-} // namespace zu::xml
+} // namespace zupackage::xml

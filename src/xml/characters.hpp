@@ -2,7 +2,7 @@
 
 #include <QtCore/QString>
 
-namespace zu::xml {
+namespace zupackage::xml {
 
 /// The text with each character that XML 1.0 cannot carry, not even as a reference, replaced by U+FFFD: control
 /// characters other than tab, line feed and carriage return; U+FFFE and U+FFFF; lone surrogates.
@@ -12,4 +12,4 @@ QString withoutForbiddenCharacters(QString text);
 /// namespace prefix), of letters that Qt's parser takes for letters, too.
 bool isElementName(const QString& name);
 
-} // namespace zu::xml
+} // namespace zupackage::xml

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace zu::xml {
+namespace zupackage::xml {
 
 namespace {
 
@@ -69,4 +69,4 @@ ParseResult parse(QIODevice& device)
     });
 }
 
-} // namespace zu::xml
+} // namespace zupackage::xml

@@ -7,7 +7,7 @@
 
 class QIODevice;
 
-namespace zu::xml {
+namespace zupackage::xml {
 
 /// Why a document was refused.
 struct ParseFailure
@@ -25,4 +25,4 @@ ParseResult parse(const std::string& content);
 /// Parses what the open device holds, in the encoding that the document says itself, without namespace processing.
 ParseResult parse(QIODevice& device);
 
-} // namespace zu::xml
+} // namespace zupackage::xml

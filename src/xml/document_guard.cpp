@@ -14,7 +14,7 @@ QT_WARNING_DISABLE_DEPRECATED
 #include <map>
 #include <vector>
 
-namespace zu::xml {
+namespace zupackage::xml {
 
 namespace {
 
@@ -274,6 +274,6 @@ std::optional<ParseFailure> exceededLimit(QIODevice& document)
     return run(guard, source);
 }
 
-} // namespace zu::xml
+} // namespace zupackage::xml
 
 QT_WARNING_POP

@@ -7,7 +7,7 @@
 /// What a document may demand of the parser; no manifest comes near these. Beyond them the XML library overflows its
 /// stack (25,000 levels of elements, 200,000 of groups in a content model), takes gigabytes (one long entity, often
 /// referenced; millions of nodes; millions of attributes in an element) or minutes (see k_steps).
-namespace zu::xml::limits {
+namespace zupackage::xml::limits {
 
 inline constexpr int k_documentMiB = 64;
 inline constexpr int k_levels = 256; ///< of elements, and of groups in a content model
@@ -24,9 +24,9 @@ inline constexpr qint64 k_steps = qint64(1) << 30;
 
 inline constexpr qint64 k_bytesPerMiB = 1024 * 1024;
 
-} // namespace zu::xml::limits
+} // namespace zupackage::xml::limits
 
-namespace zu::xml {
+namespace zupackage::xml {
 
 /// The failure of a document that is larger than the limit.
 ParseFailure tooLarge();
@@ -36,4 +36,4 @@ ParseFailure tooLarge();
 std::optional<ParseFailure> exceededLimit(const QString& document);
 std::optional<ParseFailure> exceededLimit(QIODevice& document);
 
-} // namespace zu::xml
+} // namespace zupackage::xml

@@ -16,7 +16,7 @@ TEST(TypeRegistration, AgainChangesNothingAndSaysNothing)
     const TypeInterface* type = getType(TypeInfo::of<PackageInfo>());
     const TypeInterface* record = findType("::zu::PackageInfoPrivate");
     ASSERT_NE(type, nullptr);
-    EXPECT_FALSE(registerTypes());
+    EXPECT_FALSE(zupackage::registerTypes());
     EXPECT_EQ(getType(TypeInfo::of<PackageInfo>()), type);
     EXPECT_EQ(findType("::zu::PackageInfoPrivate"), record);
     EXPECT_THAT(log.lines(), testing::IsEmpty());

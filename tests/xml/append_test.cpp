@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zu::xml {
+namespace zupackage::xml {
 
 namespace {
 
@@ -63,4 +63,4 @@ TEST_F(XmlAppend, AttributesAndFlags)
     EXPECT_EQ(written(), "<root a=\"false\"/>");
 }
 
-} // namespace zu::xml
+} // namespace zupackage::xml

@@ -5,7 +5,7 @@
 #include <QtXml/QDomDocument>
 #include <gtest/gtest.h>
 
-namespace zu::xml {
+namespace zupackage::xml {
 
 namespace {
 
@@ -52,10 +52,10 @@ TEST(XmlCharacters, EveryNameIsReadByQtAndByASecondParser)
                 EXPECT_TRUE(qtReadsElement(name)) << code;
             }
     EXPECT_GT(names, 80'000);
-    const test::TemporaryFolder folder;
+    const zu::test::TemporaryFolder folder;
     const std::string path = folder.file("names.xml", (document + "</names>").toStdString());
-    const test::ProgramResult result = test::runProgram("xmllint", {"--noout", path});
+    const zu::test::ProgramResult result = zu::test::runProgram("xmllint", {"--noout", path});
     EXPECT_EQ(result.exitCode, 0) << result.errors.substr(0, 500);
 }
 
-} // namespace zu::xml
+} // namespace zupackage::xml

@@ -3,7 +3,7 @@
 #include <QtCore/QBuffer>
 #include <gtest/gtest.h>
 
-namespace zu::xml {
+namespace zupackage::xml {
 
 namespace {
 
@@ -54,4 +54,4 @@ TEST(XmlDocument, AFailureHasThePlaceAndTheParsersWords)
     EXPECT_EQ(failure.message, "tag mismatch");
 }
 
-} // namespace zu::xml
+} // namespace zupackage::xml

@@ -8,7 +8,7 @@
 
 using namespace std::string_literals;
 
-namespace zu::xml {
+namespace zupackage::xml {
 
 namespace {
 
@@ -68,4 +68,4 @@ TEST(XmlNodes, ReadTextsKeepsTheLaterTextOfAKey)
                 testing::ElementsAre(testing::Pair("", ""), testing::Pair("en", "b"), testing::Pair("fr", "kept")));
 }
 
-} // namespace zu::xml
+} // namespace zupackage::xml
