@@ -19,48 +19,6 @@ TEST(BehaviorDump, OfAnEmptyBehaviorHasEveryHeading)
                                       "\n");
 }
 
-TEST(BehaviorDump, OfAFullBehavior)
-{
-    BehaviorInfo behavior;
-    behavior.setPath("b");
-    behavior.setNature("solitary");
-    behavior.setUserRequestable(true);
-    behavior.setName("Dance", "en");
-    behavior.setName("Danse", "fr");
-    behavior.setDescription("It dances", "en");
-    behavior.addTag("a", "en");
-    behavior.addTag("b", "en");
-    behavior.addTag("c", "fr");
-    behavior.addTriggerSentence("hello", "en");
-    behavior.addTriggerSentence("hi there", "en");
-    behavior.addTriggerSentence("salut", "fr");
-    behavior.addLoadingResponse("wait", "en");
-    behavior.addCondition("x < 1", "rest");
-    behavior.addCondition("y", "rest");
-    behavior.addPermission("canRunOnPod");
-    behavior.addPermission("canStandUp");
-    EXPECT_EQ(dumpOf(behavior), "Path: b\n"
-                                "Nature: solitary\n"
-                                "UserRequestable1\n"
-                                "Names: \n"
-                                "  en -> Dance\n"
-                                "  fr -> Danse\n"
-                                "Descriptions:\n"
-                                "  en -> It dances\n"
-                                "Tags:\n"
-                                "  en -> a, b\n"
-                                "  fr -> , c\n"
-                                "Trigger sentences:\n"
-                                "  en -> \"hello\", \"hi there\"\n"
-                                "  fr -> \"salut\"\n"
-                                "Loading responses:\n"
-                                "  en -> \"wait\"\n"
-                                "Conditions:\n"
-                                "  rest -> \"x < 1\", \"y\"\n"
-                                "Permissions:\n"
-                                "canRunOnPod, canStandUp\n");
-}
-
 TEST(BehaviorDump, TheTagSeparatorCarriesOverAndAnEmptyListDoesNotUseItUp)
 {
     BehaviorInfo behavior;

@@ -1,11 +1,13 @@
 #include "support/files.hpp"
 #include "support/manifests.hpp"
+#include "support/whole_package.hpp"
 
 #include <algorithm>
 
 namespace zu {
 
 using test::dumpOf;
+using test::wholePackage;
 
 namespace {
 
@@ -22,39 +24,6 @@ protected:
         return std::stringbuf::sync();
     }
 };
-
-PackageInfo everything()
-{
-    PackageInfo package;
-    package.setUuid("uuid");
-    package.setVersion("1.0");
-    package.setTypeVersion("2");
-    package.setInstallOnlyAtStartup(true);
-    package.setAuthor("author");
-    package.setOrganization("organization");
-    package.setDate("2026-01-01");
-    package.setChannel("channel");
-    package.setPath("path");
-    package.setInstaller("not printed");
-    package.setName("Name", "en");
-    package.setName("Nom", "fr");
-    package.setDescription("Description", "en");
-    package.addSupportedLanguage("fr");
-    package.addSupportedLanguage("en");
-    package.addDescriptionLanguage("not printed");
-    package.addService({"not printed", "not printed", true, {}});
-    package.addExecutableFile("not printed");
-    package.addRobotRequirement({"m", "1", "2", "3", "4"});
-    package.addRobotRequirement({"m", {}, {}, {}, {}});
-    package.addMorvoRequirement({"1", "2"});
-    package.addMorvoRequirement({});
-    for (int i = 0; i < 2; ++i) {
-        package.addLanguage({});
-        package.addBehavior({});
-        package.addDialog({});
-    }
-    return package;
-}
 
 } // namespace
 
@@ -84,7 +53,7 @@ TEST(PackageDump, OfAnEmptyPackageHasEveryHeading)
 
 TEST(PackageDump, OfAPackageWithEveryFieldIsTheGoldenText)
 {
-    test::expectGolden(dumpOf(everything()), "every_field.txt");
+    test::expectGolden(dumpOf(wholePackage()), "whole_package.txt");
 }
 
 TEST(PackageDump, PrintsEachRecordWithItsOwnDump)
@@ -109,7 +78,7 @@ TEST(PackageDump, IsFlushedLineByLine)
 {
     FlushCounter buffer;
     std::ostream out(&buffer);
-    out << everything();
+    out << wholePackage();
     const std::string text = buffer.str();
     EXPECT_EQ(buffer.flushes, std::count(text.begin(), text.end(), '\n'));
 }
@@ -126,7 +95,7 @@ TEST(PackageDump, LeavesErrorsInTheStream)
 {
     std::ostringstream out;
     out.setstate(std::ios::badbit);
-    out << everything();
+    out << wholePackage();
     EXPECT_TRUE(out.bad());
     EXPECT_EQ(out.str(), "");
 }

@@ -56,7 +56,6 @@ TEST(Loading, MakesValuesWithoutKnowingTheirTypes)
     load(ZUPACKAGE_LIBRARY);
     AnyValue package(findType("::zu::PackageInfo"));
     Values members = package.to<Values>();
-    EXPECT_EQ(members.size(), 20u);
     AnyValue behavior(findType("::zu::BehaviorInfo"));
     behavior.reference()._element(0).set("path");
     members["uuid"] = AnyValue::from("u");
@@ -70,9 +69,9 @@ TEST(Loading, MakesValuesWithoutKnowingTheirTypes)
 TEST(Loading, OutlivesItsUnloading)
 {
     EXPECT_EQ(dlclose(load(ZUPACKAGE_LIBRARY)), 0);
-    EXPECT_EQ(AnyValue(findType("::zu::PackageInfo")).to<Values>().size(), 20u);
+    EXPECT_EQ(AnyValue(findType("::zu::PackageInfo")).to<Values>().count("uuid"), 1u);
     load(ZUPACKAGE_LIBRARY);
-    EXPECT_EQ(AnyValue(findType("::zu::PackageInfo")).to<Values>().size(), 20u);
+    EXPECT_EQ(AnyValue(findType("::zu::PackageInfo")).to<Values>().count("uuid"), 1u);
 }
 
 TEST(Loading, OutlivesTheUnloadingOfALibraryThatUsedItsRecordsFirst)

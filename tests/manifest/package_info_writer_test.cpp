@@ -2,6 +2,7 @@
 #include "support/files.hpp"
 #include "support/generated_packages.hpp"
 #include "support/manifests.hpp"
+#include "support/whole_package.hpp"
 
 #include <QtCore/QFile>
 #include <QtCore/QHashFunctions>
@@ -14,32 +15,11 @@ namespace {
 
 std::string written(PackageInfo package) { return package.saveToManifestContent(); }
 
-/// A package with every element; its attributes come in one order from now on.
-PackageInfo oneOfEach()
+/// A package whose attributes come in one order from now on.
+PackageInfo wholePackage()
 {
     qSetGlobalQHashSeed(0);
-    PackageInfo package;
-    package.setName("Name", "en");
-    package.setName("", "fr");
-    package.setName("Nameless", "");
-    package.setDescription("Description", "en");
-    package.addSupportedLanguage("en");
-    package.addSupportedLanguage("");
-    package.addDescriptionLanguage("en");
-    package.addBehavior({});
-    package.addDialog({});
-    package.addLanguage({});
-    package.addRobotRequirement({"model", {}, {}, {}, {}});
-    package.addRobotRequirement({});
-    package.addMorvoRequirement({"1.0", {}});
-    package.addMorvoRequirement({});
-    package.addService({{}, {}, false, {{"", "value"}, {"A", ""}}});
-    package.addService({{}, {}, true, {}});
-    package.addExecutableFile("bin/run");
-    package.addExecutableFile("");
-    package.setInstaller("not written");
-    package.setPath("not written");
-    return package;
+    return test::wholePackage();
 }
 
 } // namespace
@@ -52,14 +32,17 @@ TEST(PackageWriter, OfADefaultPackageHasOneFlagAndEmptyContents)
                            "</package>\n");
 }
 
-TEST(PackageWriter, ElementsStandInTheirFixedOrder) { test::expectGolden(written(oneOfEach()), "one_of_each.xml"); }
+TEST(PackageWriter, ElementsStandInTheirFixedOrder)
+{
+    test::expectGolden(written(wholePackage()), "whole_package.xml");
+}
 
 TEST(PackageWriter, TheFileIsIndentedByTwoBlanksAndTheTextByOne)
 {
     const test::TemporaryFolder folder;
     const std::string path = (folder.path() / "manifest.xml").string();
-    ASSERT_TRUE(oneOfEach().saveToManifestFile(path));
-    test::expectGolden(test::readFile(path), "one_of_each_file.xml");
+    ASSERT_TRUE(wholePackage().saveToManifestFile(path));
+    test::expectGolden(test::readFile(path), "whole_package_file.xml");
 }
 
 TEST(PackageWriter, RootAttributesAreWrittenUnlessEmpty)
@@ -100,7 +83,7 @@ TEST(PackageWriter, EveryAttributeOfRequirementsAndServicesIsWritten)
 
 TEST(PackageWriter, WritingChangesNothing)
 {
-    PackageInfo package = oneOfEach();
+    PackageInfo package = wholePackage();
     const std::string before = test::describe(package);
     package.saveToManifestContent();
     EXPECT_EQ(test::describe(package), before);
@@ -133,7 +116,7 @@ TEST(PackageWriterFile, ReplacesWhatIsThereAndIsClosed)
 
 TEST(PackageWriterFile, AFullDiskIsNotNoticed)
 {
-    EXPECT_TRUE(oneOfEach().saveToManifestFile(std::string("/dev/full")));
+    EXPECT_TRUE(wholePackage().saveToManifestFile(std::string("/dev/full")));
 }
 
 TEST(PackageWriterFile, IsUtf8WhateverTheLocale)

@@ -194,7 +194,6 @@ TEST(RegisteredValue, ABehaviorGoesToAMapOfNamedValuesAndBack)
         const PackageInfo package = *test::packages(test::texts());
         for (const BehaviorInfo& original : package.behaviors()) {
             const auto named = AnyValue::from(original).to<Values>();
-            RC_ASSERT(named.size() == 11u);
             RC_ASSERT(named.at("path").to<std::string>() == original.path());
             RC_ASSERT(dumpOf(AnyValue::from(named).to<BehaviorInfo>()) == dumpOf(original));
         }
@@ -209,7 +208,6 @@ TEST(RegisteredValue, APackageGoesToAMapOfNamedValuesAndBackWithoutInstallOnlyAt
         package.setPath(*test::texts());
         const auto named = AnyValue::from(package).to<Values>();
         const auto back = AnyValue::from(named).to<PackageInfo>();
-        RC_ASSERT(named.size() == 20u);
         RC_ASSERT(!back.installOnlyAtStartup());
         package.setInstallOnlyAtStartup(false);
         RC_ASSERT(describe(back) == describe(package));

@@ -111,9 +111,8 @@ void expectHandle(const std::string& className, const std::string& recordName,
 
 } // namespace
 
-TEST(RegisteredTypes, ThePackageHasItsTwentyMembersInOrderWithoutInstallOnlyAtStartup)
+TEST(RegisteredTypes, ThePackageHasItsMembersInOrderWithoutInstallOnlyAtStartup)
 {
-    EXPECT_EQ(k_packageMembers.size(), 20u);
     expectHandle<PackageInfo>("::zu::PackageInfo", "::zu::PackageInfoPrivate", k_packageMembers);
 }
 

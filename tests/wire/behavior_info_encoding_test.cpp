@@ -1,6 +1,7 @@
 #include "support/manifests.hpp"
 #include "support/signature.hpp"
 #include "support/variants.hpp"
+#include "support/whole_package.hpp"
 
 #include <zupackage/behavior_info.hpp>
 #include <zupackage/vxvalue.hpp>
@@ -20,6 +21,7 @@ using test::layout;
 using test::pair;
 using test::textArray;
 using test::typeError;
+using test::wholeBehavior;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
@@ -37,62 +39,12 @@ VXValue encoded(const BehaviorInfo& behavior)
     return value;
 }
 
-BehaviorInfo everything()
-{
-    BehaviorInfo behavior;
-    behavior.setPath("path");
-    behavior.setNature("nature");
-    behavior.setUserRequestable(true);
-    behavior.setName("nom", "fr");
-    behavior.setName("name", "en");
-    behavior.setDescription("description", "en");
-    behavior.addTag("t2", "en");
-    behavior.addTag("t1", "en");
-    behavior.addTag("", "de");
-    behavior.addTriggerSentence("sentence", "en");
-    behavior.addLoadingResponse("response", "en");
-    behavior.addCondition("condition", "purpose");
-    behavior.addPermission("canStandUp");
-    behavior.addPermission("canRunOnPod");
-    return behavior;
-}
-
-VXValue everythingEncoded()
-{
-    return array({
-        pair("path", "path"),
-        pair("nature", "nature"),
-        pair("names", array({pair("en", "name"), pair("fr", "nom")})),
-        pair("descriptions", array({pair("en", "description")})),
-        pair("categories", {}),
-        pair("tags", array({pair("de", textArray({""})), pair("en", textArray({"t2", "t1"}))})),
-        pair("triggerSentences", array({pair("en", textArray({"sentence"}))})),
-        pair("loadingResponses", array({pair("en", textArray({"response"}))})),
-        pair("conditions", array({pair("purpose", textArray({"condition"}))})),
-        pair("permissions", textArray({"canStandUp", "canRunOnPod"})),
-        pair("userRequestable", true),
-    });
-}
+VXValue everythingEncoded() { return encoded(wholeBehavior()); }
 
 /// The behavior of one pair.
 BehaviorInfo decoded(const std::string& key, VXValue value) { return array({pair(key, std::move(value))}); }
 
 } // namespace
-
-TEST(BehaviorEncoding, HasElevenPairsInTheirFixedOrder)
-{
-    EXPECT_EQ(layout(encoded(everything())), layout(everythingEncoded()));
-}
-
-TEST(BehaviorEncoding, OfAnEmptyBehaviorHasAllPairs)
-{
-    const VXValue none = array({});
-    EXPECT_EQ(layout(encoded({})),
-              layout(array({pair("path", ""), pair("nature", ""), pair("names", none), pair("descriptions", none),
-                            pair("categories", {}), pair("tags", none), pair("triggerSentences", none),
-                            pair("loadingResponses", none), pair("conditions", none), pair("permissions", none),
-                            pair("userRequestable", false)})));
-}
 
 TEST(BehaviorEncoding, CarriesAListThatAGetterCreated)
 {
@@ -107,7 +59,7 @@ TEST(BehaviorEncoding, ReplacesWhatAnArrayHolds)
 {
     for (const VXValue& before : {array({}), array({1, "x"}), everythingEncoded(), array(std::vector<VXValue>(40))}) {
         VXValue value = before;
-        everything().toVXValue(value);
+        wholeBehavior().toVXValue(value);
         EXPECT_EQ(layout(value), layout(everythingEncoded())) << layout(before);
     }
 }
@@ -116,7 +68,7 @@ TEST(BehaviorEncoding, LeavesCategoriesInvalidWhateverStoodThere)
 {
     VXValue value = everythingEncoded();
     value[4][1] = textArray({"left over"});
-    everything().toVXValue(value);
+    wholeBehavior().toVXValue(value);
     EXPECT_EQ(value[4][1].type(), VXValue::Type::Invalid);
 }
 
@@ -124,14 +76,14 @@ TEST(BehaviorEncoding, RefusesWhatIsNoArray)
 {
     VXValue value(42);
     EXPECT_EQ(
-        errorOf([&] { everything().toVXValue(value); }),
+        errorOf([&] { wholeBehavior().toVXValue(value); }),
         errorText("xAssertCompatibleType: type error", "Expected a Array but received a Int (vxvalue contents: 42 )"));
     EXPECT_EQ(layout(value), "Int 42\n");
 }
 
 TEST(BehaviorDecoding, GivesWhatWasEncoded)
 {
-    EXPECT_EQ(dumpOf(BehaviorInfo(everythingEncoded())), dumpOf(everything()));
+    EXPECT_EQ(dumpOf(BehaviorInfo(everythingEncoded())), dumpOf(wholeBehavior()));
     EXPECT_EQ(layout(encoded(everythingEncoded())), layout(everythingEncoded()));
 }
 
