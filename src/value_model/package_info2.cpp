@@ -1,3 +1,4 @@
+#include "manifest/root_attributes.hpp"
 #include "records/append_once.hpp"
 #include "records/package_info_p.hpp"
 #include "value_model/package_info2_keys.hpp"
@@ -78,13 +79,9 @@ T contentOf(const zu::PackageInfo2& package, Key<T> key)
 /// Fills a fresh package.
 void fill(zu::PackageInfoPrivate& record, const zu::PackageInfo2& package)
 {
-    record.uuid = package.uuid;
-    record.version = package.version;
-    record.author = package.author;
-    record.channel = package.channel;
-    record.organization = package.organization;
-    record.date = package.date;
-    record.typeVersion = package.typeVersion;
+    for (std::size_t i = 0; i < std::size(k_rootAttributes<zu::PackageInfo2>); ++i)
+        record.*k_rootAttributes<zu::PackageInfoPrivate>[i].field =
+            package.*k_rootAttributes<zu::PackageInfo2>[i].field;
     record.installer = package.installer;
     record.path = package.path;
     record.installOnlyAtStartup = package.installOnlyAtStartup;
