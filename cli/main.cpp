@@ -2,7 +2,6 @@
 #include "commands/show.hpp"
 
 #include <CLI/CLI.hpp>
-#include <QtCore/QHashFunctions>
 #include <QtCore/QTextCodec>
 #include <QtCore/QtGlobal>
 
@@ -18,7 +17,6 @@ namespace {
 /// What the library leaves to the process, so that one input gives one output everywhere.
 void settleProcess()
 {
-    qSetGlobalQHashSeed(0);
     // File names are UTF-8 whatever the locale.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     // The library's own messages say what is wrong; Qt's would say it once more.

@@ -250,7 +250,7 @@ public:
     /// languages, description languages, contents, requirements (middleware before robots), services, executable files.
     /// Texts that are empty are left out, so are attributes with empty values; "contents" and the flags are always
     /// written. installer() and path() never are, and what this class does not hold (comments, unknown elements, web
-    /// content) is not there to be written. The order of attributes in an element is not defined.
+    /// content) is not there to be written. Attributes come in a fixed order, too: equal packages become equal bytes.
     ///
     /// Any XML parser can read the result. A character that XML cannot carry (control characters other than tab, line
     /// feed and carriage return, U+FFFE, U+FFFF) is written as U+FFFD, and so is what is no UTF-8; a permission that

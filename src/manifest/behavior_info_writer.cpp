@@ -1,6 +1,6 @@
+#include "manifest/elements_writer.hpp"
 #include "manifest/manifest_names.hpp"
 #include "records/behavior_info_p.hpp"
-#include "xml/append.hpp"
 #include "xml/characters.hpp"
 #include "xml/nodes.hpp"
 
@@ -10,43 +10,35 @@ namespace {
 
 using namespace names;
 
-void appendPermissions(QDomDocument& document, QDomElement& behavior, const std::list<std::string>& permissions)
+void writePermissions(xml::TextWriter& out, const std::list<std::string>& permissions)
 {
-    QDomElement element = xml::appendElement(document, behavior, k_permissions);
-    for (const std::string& permission : permissions)
+    out.startElement(k_permissions);
+    for (const std::string& permission : permissions) {
+        const QString name = xml::fromUtf8(permission);
         // Not every door into the record checks permissions as addPermission() does.
-        if (xml::isElementName(xml::fromUtf8(permission)))
-            xml::appendElement(document, element, permission);
-}
-
-void append(QDomDocument& document, QDomNode& parent, const zu::BehaviorInfoPrivate& record)
-{
-    QDomElement element = xml::appendElement(document, parent, k_behaviorContent);
-    xml::setAttribute(element, k_path, record.path);
-    if (record.userRequestable)
-        xml::appendElement(document, element, k_userRequestable);
-    QDomElement nature = xml::appendElement(document, element, k_nature);
-    xml::appendText(document, nature, record.nature);
-    xml::appendLangMap(document, element, record.langToName, k_names, k_name, k_lang);
-    xml::appendLangMap(document, element, record.langToDesc, k_descriptions, k_description, k_lang);
-    xml::appendLangListMap(document, element, record.langToTags, k_tags, k_tag, k_lang, false);
-    xml::appendLangListMap(document, element, record.langToTriggerSentences, k_triggerSentences, k_sentence, k_lang,
-                           false);
-    xml::appendLangListMap(document, element, record.langToLoadingResponses, k_loadingResponses, k_sentence, k_lang,
-                           false);
-    xml::appendLangListMap(document, element, record.purposeToCondition, k_autonomous, k_condition, k_purpose, true);
-    appendPermissions(document, element, record.permissions);
+        if (xml::isElementName(name))
+            writeEmptyElement(out, xml::toUtf8(name));
+    }
+    out.endElement();
 }
 
 } // namespace
 
-} // namespace zupackage
-
-namespace zu {
-
-void BehaviorInfoPrivate::saveToManifest(QDomDocument& document, QDomNode& parent) const
+void writeBehavior(xml::TextWriter& out, const zu::BehaviorInfoPrivate& behavior)
 {
-    zupackage::append(document, parent, *this);
+    out.startElement(k_behaviorContent);
+    out.attribute(k_path, behavior.path);
+    if (behavior.userRequestable)
+        writeEmptyElement(out, k_userRequestable);
+    writeTextElement(out, k_nature, behavior.nature);
+    writeTexts(out, {k_names, k_name, k_lang}, behavior.langToName);
+    writeTexts(out, {k_descriptions, k_description, k_lang}, behavior.langToDesc);
+    writeTextLists(out, {k_tags, k_tag, k_lang}, behavior.langToTags);
+    writeTextLists(out, {k_triggerSentences, k_sentence, k_lang}, behavior.langToTriggerSentences);
+    writeTextLists(out, {k_loadingResponses, k_sentence, k_lang}, behavior.langToLoadingResponses);
+    writeCDataLists(out, {k_autonomous, k_condition, k_purpose}, behavior.purposeToCondition);
+    writePermissions(out, behavior.permissions);
+    out.endElement();
 }
 
-} // namespace zu
+} // namespace zupackage

@@ -1,14 +1,11 @@
+#include "manifest/elements_writer.hpp"
 #include "manifest/manifest_names.hpp"
 #include "manifest/root_attributes.hpp"
-#include "records/behavior_info_p.hpp"
-#include "records/language_info_p.hpp"
 #include "records/package_info_p.hpp"
 #include "records/private_record.hpp"
-#include "xml/append.hpp"
 #include "xml/nodes.hpp"
 
 #include <QtCore/QFile>
-#include <QtCore/QTextStream>
 
 namespace zupackage {
 
@@ -16,105 +13,122 @@ namespace {
 
 using namespace names;
 
-void setRootAttributes(QDomElement& root, const zu::PackageInfoPrivate& package)
+void writeRootAttributes(xml::TextWriter& out, const zu::PackageInfoPrivate& package)
 {
     for (const auto& attribute : k_rootAttributes<zu::PackageInfoPrivate>)
-        xml::setNonEmptyAttribute(root, attribute.name, package.*attribute.field);
-    xml::setFlag(root, k_installOnlyAtStartup, package.installOnlyAtStartup);
+        writeNonEmptyAttribute(out, attribute.name, package.*attribute.field);
+    writeFlag(out, k_installOnlyAtStartup, package.installOnlyAtStartup);
 }
 
-void appendLanguages(QDomDocument& document, QDomElement& root, const std::list<std::string>& languages,
-                     std::string_view containerName)
+void writeLanguageCodes(xml::TextWriter& out, std::string_view containerName, const std::list<std::string>& languages)
 {
     if (languages.empty())
         return;
-    QDomElement container = xml::appendElement(document, root, containerName);
-    for (const std::string& lang : languages) {
-        QDomElement child = xml::appendElement(document, container, k_language);
-        xml::appendText(document, child, lang);
-    }
+    out.startElement(containerName);
+    for (const std::string& lang : languages)
+        writeTextElement(out, k_language, lang);
+    out.endElement();
 }
 
-void appendContents(QDomDocument& document, QDomElement& root, const zu::PackageInfoPrivate& package)
+void writeContents(xml::TextWriter& out, const zu::PackageInfoPrivate& package)
 {
-    QDomElement contents = xml::appendElement(document, root, k_contents);
+    out.startElement(k_contents);
     for (const zu::BehaviorInfo& behavior : package.behaviors)
-        zu::PrivateRecord::of(behavior).saveToManifest(document, contents);
+        writeBehavior(out, zu::PrivateRecord::of(behavior));
     for (const zu::DialogInfo& dialog : package.dialogs)
-        dialog.saveToManifest(document, contents);
+        writeDialog(out, zu::PrivateRecord::of(dialog));
     for (const zu::LanguageInfo& language : package.languages)
-        zu::PrivateRecord::of(language).saveToManifest(document, contents);
+        writeLanguage(out, zu::PrivateRecord::of(language));
+    out.endElement();
 }
 
-void appendRequirements(QDomDocument& document, QDomElement& root, const zu::PackageInfoPrivate& package)
+void writeRequirements(xml::TextWriter& out, const zu::PackageInfoPrivate& package)
 {
     if (package.morvoRequirements.empty() && package.robotRequirements.empty())
         return;
-    QDomElement requirements = xml::appendElement(document, root, k_requirements);
+    out.startElement(k_requirements);
     for (const zu::MorvoRequirement& morvo : package.morvoRequirements) {
-        QDomElement element = xml::appendElement(document, requirements, k_morvoRequirement);
-        xml::setNonEmptyAttribute(element, k_minVersion, morvo.minVersion);
-        xml::setNonEmptyAttribute(element, k_maxVersion, morvo.maxVersion);
+        out.startElement(k_morvoRequirement);
+        writeNonEmptyAttribute(out, k_minVersion, morvo.minVersion);
+        writeNonEmptyAttribute(out, k_maxVersion, morvo.maxVersion);
+        out.endElement();
     }
     for (const zu::RobotRequirement& robot : package.robotRequirements) {
-        QDomElement element = xml::appendElement(document, requirements, k_robotRequirement);
-        xml::setNonEmptyAttribute(element, k_model, robot.model);
-        xml::setNonEmptyAttribute(element, k_minHeadVersion, robot.minHeadVersion);
-        xml::setNonEmptyAttribute(element, k_maxHeadVersion, robot.maxHeadVersion);
-        xml::setNonEmptyAttribute(element, k_minBodyVersion, robot.minBodyVersion);
-        xml::setNonEmptyAttribute(element, k_maxBodyVersion, robot.maxBodyVersion);
+        out.startElement(k_robotRequirement);
+        writeNonEmptyAttribute(out, k_model, robot.model);
+        writeNonEmptyAttribute(out, k_minHeadVersion, robot.minHeadVersion);
+        writeNonEmptyAttribute(out, k_maxHeadVersion, robot.maxHeadVersion);
+        writeNonEmptyAttribute(out, k_minBodyVersion, robot.minBodyVersion);
+        writeNonEmptyAttribute(out, k_maxBodyVersion, robot.maxBodyVersion);
+        out.endElement();
     }
+    out.endElement();
 }
 
-void appendService(QDomDocument& document, QDomElement& services, const zu::PackageService& service)
+void writeService(xml::TextWriter& out, const zu::PackageService& service)
 {
-    QDomElement element = xml::appendElement(document, services, k_service);
-    xml::setFlag(element, k_autorun, service.autoRun);
-    xml::setNonEmptyAttribute(element, k_name, service.name);
-    xml::setNonEmptyAttribute(element, k_execStart, service.execStart);
+    out.startElement(k_service);
+    writeFlag(out, k_autorun, service.autoRun);
+    writeNonEmptyAttribute(out, k_name, service.name);
+    writeNonEmptyAttribute(out, k_execStart, service.execStart);
     for (const auto& [name, value] : service.envVars) {
-        QDomElement envVar = xml::appendElement(document, element, k_envVar);
-        xml::setNonEmptyAttribute(envVar, k_name, name);
-        xml::setNonEmptyAttribute(envVar, k_value, value);
+        out.startElement(k_envVar);
+        writeNonEmptyAttribute(out, k_name, name);
+        writeNonEmptyAttribute(out, k_value, value);
+        out.endElement();
     }
+    out.endElement();
 }
 
-void appendServices(QDomDocument& document, QDomElement& root, const zu::PackageInfoPrivate& package)
+void writeServices(xml::TextWriter& out, const std::list<zu::PackageService>& services)
 {
-    if (package.services.empty())
+    if (services.empty())
         return;
-    QDomElement services = xml::appendElement(document, root, k_services);
-    for (const zu::PackageService& service : package.services)
-        appendService(document, services, service);
+    out.startElement(k_services);
+    for (const zu::PackageService& service : services)
+        writeService(out, service);
+    out.endElement();
 }
 
-void appendExecutableFiles(QDomDocument& document, QDomElement& root, const zu::PackageInfoPrivate& package)
+void writeExecutableFiles(xml::TextWriter& out, const std::list<std::string>& paths)
 {
-    if (package.executableFiles.empty())
+    if (paths.empty())
         return;
-    QDomElement files = xml::appendElement(document, root, k_executableFiles);
-    for (const std::string& path : package.executableFiles) {
-        QDomElement file = xml::appendElement(document, files, k_file);
-        xml::setNonEmptyAttribute(file, k_path, path);
+    out.startElement(k_executableFiles);
+    for (const std::string& path : paths) {
+        out.startElement(k_file);
+        writeNonEmptyAttribute(out, k_path, path);
+        out.endElement();
     }
+    out.endElement();
 }
 
-QDomDocument documentOf(const zu::PackageInfoPrivate& package)
+std::string documentOf(const zu::PackageInfoPrivate& package, xml::TextWriter out)
 {
-    QDomDocument document;
-    document.appendChild(
-        document.createProcessingInstruction(QStringLiteral("xml"), QStringLiteral("version='1.0' encoding='UTF-8'")));
-    QDomElement root = xml::appendElement(document, document, k_package);
-    setRootAttributes(root, package);
-    xml::appendLangMap(document, root, package.langToName, k_names, k_name, k_lang);
-    xml::appendLangMap(document, root, package.langToDesc, k_descriptions, k_description, k_lang);
-    appendLanguages(document, root, package.supportedLanguages, k_supportedLanguages);
-    appendLanguages(document, root, package.descriptionLanguages, k_descriptionLanguages);
-    appendContents(document, root, package);
-    appendRequirements(document, root, package);
-    appendServices(document, root, package);
-    appendExecutableFiles(document, root, package);
-    return document;
+    out.startElement(k_package);
+    writeRootAttributes(out, package);
+    writeTexts(out, {k_names, k_name, k_lang}, package.langToName);
+    writeTexts(out, {k_descriptions, k_description, k_lang}, package.langToDesc);
+    writeLanguageCodes(out, k_supportedLanguages, package.supportedLanguages);
+    writeLanguageCodes(out, k_descriptionLanguages, package.descriptionLanguages);
+    writeContents(out, package);
+    writeRequirements(out, package);
+    writeServices(out, package.services);
+    writeExecutableFiles(out, package.executableFiles);
+    out.endElement();
+    return out.takeDocument();
+}
+
+// Programs compare manifests byte by byte, so that neither the quotes nor the blanks become the same.
+
+std::string textOf(const zu::PackageInfoPrivate& package)
+{
+    return documentOf(package, xml::TextWriter("<?xml version='1.0' encoding='UTF-8'?>", 1));
+}
+
+std::string fileContentOf(const zu::PackageInfoPrivate& package)
+{
+    return documentOf(package, xml::TextWriter(R"(<?xml version="1.0" encoding="UTF-8"?>)", 2));
 }
 
 } // namespace
@@ -124,22 +138,14 @@ QDomDocument documentOf(const zu::PackageInfoPrivate& package)
 namespace zu {
 
 // Not const: callers are built against this signature.
-std::string PackageInfo::saveToManifestContent()
-{
-    return zupackage::xml::toUtf8(zupackage::documentOf(*m_p).toString(1));
-}
+std::string PackageInfo::saveToManifestContent() { return zupackage::textOf(*m_p); }
 
 bool PackageInfo::saveToManifestFile(QFile& file) const
 {
-    const QDomDocument document = zupackage::documentOf(*m_p);
+    const std::string content = zupackage::fileContentOf(*m_p);
     if (!file.open(QIODevice::WriteOnly))
         return false;
-    {
-        QTextStream stream(&file);
-        // The locale's codec would write what it cannot encode as references, of surrogates even.
-        stream.setCodec("UTF-8");
-        document.save(stream, 2, QDomNode::EncodingFromTextStream);
-    }
+    file.write(content.data(), static_cast<qint64>(content.size()));
     file.close();
     return true;
 }

@@ -4,7 +4,6 @@
 
 #include <zupackage/behavior_info.hpp>
 
-class QDomDocument;
 class QDomNode;
 
 namespace zu {
@@ -13,8 +12,6 @@ struct BehaviorInfoPrivate
 {
     /// Reads a "behaviorContent" element; the record is a fresh one. True, always.
     bool loadFromManifest(const QDomNode& element);
-    /// Appends a "behaviorContent" element to `parent`.
-    void saveToManifest(QDomDocument& document, QDomNode& parent) const;
 
     std::string path;
     std::string nature;

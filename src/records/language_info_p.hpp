@@ -6,7 +6,6 @@
 
 #include <map>
 
-class QDomDocument;
 class QDomNode;
 
 namespace zu {
@@ -15,8 +14,6 @@ struct LanguageInfoPrivate
 {
     /// Reads a "languageContent" element; the record is a fresh one. True, always.
     bool loadFromManifest(const QDomNode& element);
-    /// Appends a "languageContent" element to `parent`.
-    void saveToManifest(QDomDocument& document, QDomNode& parent) const;
 
     std::string path;
     std::string engineName;

@@ -53,6 +53,36 @@ TEST(DialogWriter, TopicsWithoutLanguageOrPathAreLeftOut)
     EXPECT_EQ(element.lastChildElement("topic").attribute("language"), "fr");
 }
 
+TEST(DialogWriter, TheRootOfAnEmptyDocumentIsTheDialog)
+{
+    DialogInfo dialog;
+    dialog.setTopicName("weather");
+    dialog.setTopic("en", "a");
+    QDomDocument document;
+    dialog.saveToManifest(document, document);
+    EXPECT_EQ(document.documentElement().tagName(), "dialogContent");
+    EXPECT_EQ(document.documentElement().attribute("topicName"), "weather");
+    EXPECT_EQ(document.documentElement().firstChildElement("topic").attribute("path"), "a");
+}
+
+TEST(DialogWriter, WithoutAParentNothingIsAppended)
+{
+    DialogInfo dialog;
+    dialog.setTopic("en", "a");
+    QDomDocument document;
+    QDomNode parent;
+    dialog.saveToManifest(document, parent);
+    EXPECT_TRUE(parent.isNull());
+    EXPECT_FALSE(document.hasChildNodes());
+}
+
+TEST(DialogWriter, WhatXmlCannotCarryBecomesTheReplacementCharacter)
+{
+    DialogInfo dialog;
+    dialog.setTopicName("a\x01\xff");
+    EXPECT_EQ(appended(dialog).attribute("topicName"), QString::fromUtf8("a\xef\xbf\xbd\xef\xbf\xbd"));
+}
+
 TEST(DialogWriter, WhatIsWrittenReadsBack)
 {
     DialogInfo dialog;

@@ -50,22 +50,51 @@ const std::vector<std::string> k_pieces = {"a",
                                            "%",
                                            "\\"};
 
-rc::Gen<std::string> keys()
-{
-    return rc::gen::oneOf(element<std::string>("", "en", "en_US", "fr", "de", "ja"), texts());
-}
+// Control characters, characters that no document holds, byte order marks, and all ways of being no UTF-8.
+const std::vector<std::string> k_unreadablePieces = {{'\0'},
+                                                     "\x01",
+                                                     "\x1f",
+                                                     "\xef\xbf\xbe",
+                                                     "\xef\xbf\xbf",
+                                                     "\xf0\x9f\xbf\xbe",
+                                                     "\xef\xbb\xbf",
+                                                     "\xef\xbb",
+                                                     "\xed\xa0\xbd",
+                                                     "\xed\xb4\x96",
+                                                     "\xed\x9f\xbf",
+                                                     "\xee\x80\x80",
+                                                     "\xc0\x80",
+                                                     "\xc1\xbf",
+                                                     "\xe0\x9f\xbf",
+                                                     "\xe0\xa0\x80",
+                                                     "\xf0\x8f\xbf\xbf",
+                                                     "\xf0\x90\x80\x80",
+                                                     "\xf4\x8f\xbf\xbf",
+                                                     "\xf4\x90\x80\x80",
+                                                     "\xf5\x80\x80\x80",
+                                                     "\xff",
+                                                     "\x80",
+                                                     "\xc3",
+                                                     "\xe6\x97",
+                                                     "\xf0\x9f\xa4"};
 
-using Texts = rc::Gen<std::string>;
-
-rc::Gen<std::map<std::string, std::string>> textMaps(const Texts& values)
+/// Where the texts of a package come from.
+struct Sources
 {
-    return resize(4, container<std::map<std::string, std::string>>(keys(), values));
+    rc::Gen<std::string> contents;
+    rc::Gen<std::string> attributes;
+};
+
+rc::Gen<std::map<std::string, std::string>> textMaps(const rc::Gen<std::string>& values, const Sources& from)
+{
+    const auto keys = rc::gen::oneOf(element<std::string>("", "en", "en_US", "fr", "de", "ja"), from.attributes);
+    return resize(4, container<std::map<std::string, std::string>>(keys, values));
 }
 
 template <class Add>
-void addTexts(const Texts& values, Add add)
+void addTexts(const Sources& from, Add add)
 {
-    for (const auto& [key, text] : *textMaps(values))
+    for (const auto& [key, text] : *textMaps(from.contents, from))
         add(text, key);
 }
 
@@ -77,19 +106,19 @@ void upTo(int most, Add add)
         add();
 }
 
-BehaviorInfo anyBehavior(const Texts& contents)
+BehaviorInfo anyBehavior(const Sources& from)
 {
     BehaviorInfo behavior;
-    behavior.setPath(*texts());
-    behavior.setNature(*contents);
+    behavior.setPath(*from.attributes);
+    behavior.setNature(*from.contents);
     behavior.setUserRequestable(*rc::gen::arbitrary<bool>());
-    addTexts(contents, [&](const auto& text, const auto& lang) { behavior.setName(text, lang); });
-    addTexts(contents, [&](const auto& text, const auto& lang) { behavior.setDescription(text, lang); });
+    addTexts(from, [&](const auto& text, const auto& lang) { behavior.setName(text, lang); });
+    addTexts(from, [&](const auto& text, const auto& lang) { behavior.setDescription(text, lang); });
     upTo(2, [&] {
-        addTexts(contents, [&](const auto& text, const auto& lang) { behavior.addTag(text, lang); });
-        addTexts(contents, [&](const auto& text, const auto& lang) { behavior.addTriggerSentence(text, lang); });
-        addTexts(contents, [&](const auto& text, const auto& lang) { behavior.addLoadingResponse(text, lang); });
-        addTexts(contents, [&](const auto& text, const auto& purpose) { behavior.addCondition(text, purpose); });
+        addTexts(from, [&](const auto& text, const auto& lang) { behavior.addTag(text, lang); });
+        addTexts(from, [&](const auto& text, const auto& lang) { behavior.addTriggerSentence(text, lang); });
+        addTexts(from, [&](const auto& text, const auto& lang) { behavior.addLoadingResponse(text, lang); });
+        addTexts(from, [&](const auto& text, const auto& purpose) { behavior.addCondition(text, purpose); });
     });
     for (const std::string& permission : BehaviorInfo::supportedPermissions())
         if (*rc::gen::arbitrary<bool>())
@@ -97,66 +126,82 @@ BehaviorInfo anyBehavior(const Texts& contents)
     return behavior;
 }
 
-DialogInfo anyDialog(const Texts& contents)
+DialogInfo anyDialog(const Sources& from)
 {
     DialogInfo dialog;
-    dialog.setTopicName(*texts());
-    dialog.setTypeVersion(*texts());
-    upTo(3, [&] { dialog.setTopic(*contents, *contents); });
+    dialog.setTopicName(*from.attributes);
+    dialog.setTypeVersion(*from.attributes);
+    upTo(3, [&] { dialog.setTopic(*from.contents, *from.contents); });
     return dialog;
 }
 
-LanguageInfo anyLanguage(const Texts& contents)
+LanguageInfo anyLanguage(const Sources& from)
 {
     LanguageInfo language;
-    language.setPath(*texts());
-    language.setEngineName(*texts());
-    language.setEngineVersion(*texts());
-    language.setLocale(*contents);
-    addTexts(contents, [&](const auto& text, const auto& lang) { language.setName(text, lang); });
+    language.setPath(*from.attributes);
+    language.setEngineName(*from.attributes);
+    language.setEngineVersion(*from.attributes);
+    language.setLocale(*from.contents);
+    addTexts(from, [&](const auto& text, const auto& lang) { language.setName(text, lang); });
     return language;
 }
 
-void fillIdentity(PackageInfo& package)
+void fillIdentity(PackageInfo& package, const Sources& from)
 {
-    package.setUuid(*texts());
-    package.setVersion(*texts());
-    package.setAuthor(*texts());
-    package.setOrganization(*texts());
-    package.setDate(*texts());
-    package.setTypeVersion(*texts());
-    package.setChannel(*texts());
+    package.setUuid(*from.attributes);
+    package.setVersion(*from.attributes);
+    package.setAuthor(*from.attributes);
+    package.setOrganization(*from.attributes);
+    package.setDate(*from.attributes);
+    package.setTypeVersion(*from.attributes);
+    package.setChannel(*from.attributes);
     package.setInstallOnlyAtStartup(*rc::gen::arbitrary<bool>());
 }
 
-PackageInfo anyPackage(const Texts& contents)
+void addRequirements(PackageInfo& package, const rc::Gen<std::string>& texts)
+{
+    upTo(2, [&] { package.addRobotRequirement({*texts, *texts, *texts, *texts, *texts}); });
+    upTo(2, [&] { package.addMorvoRequirement({*texts, *texts}); });
+}
+
+PackageInfo anyPackage(const Sources& from)
 {
     PackageInfo package;
-    fillIdentity(package);
-    addTexts(contents, [&](const auto& text, const auto& lang) { package.setName(text, lang); });
-    addTexts(contents, [&](const auto& text, const auto& lang) { package.setDescription(text, lang); });
-    upTo(3, [&] { package.addSupportedLanguage(*contents); });
-    upTo(3, [&] { package.addDescriptionLanguage(*contents); });
-    upTo(2, [&] { package.addBehavior(anyBehavior(contents)); });
-    upTo(2, [&] { package.addDialog(anyDialog(contents)); });
-    upTo(2, [&] { package.addLanguage(anyLanguage(contents)); });
-    upTo(2, [&] { package.addRobotRequirement({*texts(), *texts(), *texts(), *texts(), *texts()}); });
-    upTo(2, [&] { package.addMorvoRequirement({*texts(), *texts()}); });
-    upTo(2, [&] { package.addService({*texts(), *texts(), *rc::gen::arbitrary<bool>(), *textMaps(texts())}); });
-    upTo(3, [&] { package.addExecutableFile(*texts()); });
+    fillIdentity(package, from);
+    addTexts(from, [&](const auto& text, const auto& lang) { package.setName(text, lang); });
+    addTexts(from, [&](const auto& text, const auto& lang) { package.setDescription(text, lang); });
+    upTo(3, [&] { package.addSupportedLanguage(*from.contents); });
+    upTo(3, [&] { package.addDescriptionLanguage(*from.contents); });
+    upTo(2, [&] { package.addBehavior(anyBehavior(from)); });
+    upTo(2, [&] { package.addDialog(anyDialog(from)); });
+    upTo(2, [&] { package.addLanguage(anyLanguage(from)); });
+    addRequirements(package, from.attributes);
+    upTo(2, [&] {
+        package.addService(
+            {*from.attributes, *from.attributes, *rc::gen::arbitrary<bool>(), *textMaps(from.attributes, from)});
+    });
+    upTo(3, [&] { package.addExecutableFile(*from.attributes); });
     return package;
+}
+
+rc::Gen<std::string> joined(const rc::Gen<std::string>& pieces)
+{
+    return rc::gen::map(resize(6, container<std::vector<std::string>>(pieces)), [](const auto& parts) {
+        std::string text;
+        for (const std::string& part : parts)
+            text += part;
+        return text;
+    });
 }
 
 } // namespace
 
-rc::Gen<std::string> texts()
+rc::Gen<std::string> texts() { return joined(elementOf(k_pieces)); }
+
+rc::Gen<std::string> byteStrings()
 {
-    return rc::gen::map(resize(6, container<std::vector<std::string>>(elementOf(k_pieces))), [](const auto& pieces) {
-        std::string text;
-        for (const std::string& piece : pieces)
-            text += piece;
-        return text;
-    });
+    const auto bytes = rc::gen::map(rc::gen::arbitrary<char>(), [](char byte) { return std::string(1, byte); });
+    return joined(rc::gen::oneOf(elementOf(k_pieces), elementOf(k_unreadablePieces), bytes));
 }
 
 rc::Gen<std::string> visibleTexts()
@@ -165,9 +210,9 @@ rc::Gen<std::string> visibleTexts()
         texts(), [](const std::string& text) { return !QString::fromStdString(text).simplified().isEmpty(); });
 }
 
-rc::Gen<PackageInfo> packages(const rc::Gen<std::string>& contents)
+rc::Gen<PackageInfo> packages(const rc::Gen<std::string>& contents, const rc::Gen<std::string>& attributes)
 {
-    return rc::gen::exec([contents] { return anyPackage(contents); });
+    return rc::gen::exec([from = Sources{contents, attributes}] { return anyPackage(from); });
 }
 
 std::string describe(const PackageInfo& package)
