@@ -1,7 +1,7 @@
 // Structs that are known by name and member, and a public class over its private record.
 #include <zu/conversion.hpp>
 #include <zu/registry.hpp>
-#include <zu/type/struct_bouncer.hpp>
+#include <zu/struct_bouncer.hpp>
 
 #include <iostream>
 #include <map>

@@ -1,7 +1,25 @@
 #include <zu/native/dynamic.hpp>
+#include <zu/native/opaque.hpp>
 #include <zu/native/tuple.hpp>
 
 namespace zu::detail {
+
+namespace {
+
+class VoidType final : public TypeInterface
+{
+public:
+    VoidType() : TypeInterface(TypeInfo::of<void>(), TypeKind::Void) {}
+
+    void* initializeStorage() const override { return nullptr; }
+    void* clone(const void*) const override { return nullptr; }
+    void destroy(void*) const override {}
+    bool assign(void*, const void*) const override { return true; }
+};
+
+} // namespace
+
+const TypeInterface* makeVoidType() { return new VoidType; }
 
 const std::string& noName()
 {

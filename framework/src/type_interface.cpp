@@ -1,5 +1,4 @@
 #include <zu/log.hpp>
-#include <zu/native/opaque.hpp>
 #include <zu/type/dynamic.hpp>
 #include <zu/type/float.hpp>
 #include <zu/type/function.hpp>
@@ -13,6 +12,7 @@
 #include <zu/type/raw.hpp>
 #include <zu/type/string.hpp>
 #include <zu/type/struct.hpp>
+#include <zu/type/unknown.hpp>
 
 #include <iterator>
 #include <stdexcept>
@@ -59,23 +59,6 @@ bool TypeInterface::assignMoved(void* target, void* source) const { return assig
 void ListTypeInterface::appendMoved(void* list, void* element) const { append(list, element); }
 
 namespace detail {
-
-namespace {
-
-class VoidType final : public TypeInterface
-{
-public:
-    VoidType() : TypeInterface(TypeInfo::of<void>(), TypeKind::Void) {}
-
-    void* initializeStorage() const override { return nullptr; }
-    void* clone(const void*) const override { return nullptr; }
-    void destroy(void*) const override {}
-    bool assign(void*, const void*) const override { return true; }
-};
-
-} // namespace
-
-const TypeInterface* makeVoidType() { return new VoidType; }
 
 void reportStorageFailure(const TypeInterface& type)
 {

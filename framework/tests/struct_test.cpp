@@ -3,7 +3,7 @@
 
 #include <zu/conversion.hpp>
 #include <zu/registry.hpp>
-#include <zu/type/struct_bouncer.hpp>
+#include <zu/struct_bouncer.hpp>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -5,6 +5,8 @@
 #include <zupackage/export.hpp>
 #include <zupackage/language_info.hpp>
 
+#include <zu/forward.hpp>
+
 #include <QtCore/qglobal.h>
 
 #include <iosfwd>
@@ -20,11 +22,6 @@ class VXValue;
 }
 
 namespace zu {
-
-// Of the host framework: how the small records below become known to its type system when they are first used with it.
-class TypeInterface;
-template <class T, class>
-struct NativeType;
 
 /// A robot hardware that a package needs. Versions are texts; nothing here compares or parses them.
 struct ZUPACKAGE_EXPORT RobotRequirement
@@ -53,21 +50,21 @@ struct ZUPACKAGE_EXPORT PackageService
 };
 
 template <>
-struct ZUPACKAGE_EXPORT NativeType<RobotRequirement, void>
+struct ZUPACKAGE_EXPORT NativeType<RobotRequirement>
 {
     /// The one interface of the class, "::zu::RobotRequirement", for every library.
     static const TypeInterface* make();
 };
 
 template <>
-struct ZUPACKAGE_EXPORT NativeType<MorvoRequirement, void>
+struct ZUPACKAGE_EXPORT NativeType<MorvoRequirement>
 {
     /// The one interface of the class, "::zu::MorvoRequirement", for every library.
     static const TypeInterface* make();
 };
 
 template <>
-struct ZUPACKAGE_EXPORT NativeType<PackageService, void>
+struct ZUPACKAGE_EXPORT NativeType<PackageService>
 {
     /// The one interface of the class, "::zu::PackageService", for every library.
     static const TypeInterface* make();

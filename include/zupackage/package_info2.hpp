@@ -18,7 +18,7 @@ struct ZUPACKAGE_EXPORT WebInfo
 };
 
 template <>
-struct ZUPACKAGE_EXPORT NativeType<WebInfo, void>
+struct ZUPACKAGE_EXPORT NativeType<WebInfo>
 {
     /// The one interface of the class, "::zu::WebInfo", for every library.
     static const TypeInterface* make();

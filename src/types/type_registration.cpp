@@ -12,7 +12,7 @@
 #include <zupackage/vxvalue.hpp>
 
 #include <zu/registry.hpp>
-#include <zu/type/struct_bouncer.hpp>
+#include <zu/struct_bouncer.hpp>
 
 #include <algorithm>
 #include <iterator>
@@ -79,25 +79,25 @@ bool registerTypes()
 
 namespace zu {
 
-const TypeInterface* NativeType<RobotRequirement, void>::make()
+const TypeInterface* NativeType<RobotRequirement>::make()
 {
     static const TypeInterface* type = zupackage::known<RobotRequirement>("::zu::RobotRequirement");
     return type;
 }
 
-const TypeInterface* NativeType<MorvoRequirement, void>::make()
+const TypeInterface* NativeType<MorvoRequirement>::make()
 {
     static const TypeInterface* type = zupackage::known<MorvoRequirement>("::zu::MorvoRequirement");
     return type;
 }
 
-const TypeInterface* NativeType<PackageService, void>::make()
+const TypeInterface* NativeType<PackageService>::make()
 {
     static const TypeInterface* type = zupackage::known<PackageService>("::zu::PackageService");
     return type;
 }
 
-const TypeInterface* NativeType<WebInfo, void>::make()
+const TypeInterface* NativeType<WebInfo>::make()
 {
     static const TypeInterface* type = zupackage::known<WebInfo>("::zu::WebInfo");
     return type;

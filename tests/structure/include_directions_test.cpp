@@ -1,68 +1,18 @@
+#include "includes.hpp"
 #include "support/files.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <optional>
-#include <sstream>
 
 namespace zu {
-
-namespace fs = std::filesystem;
 
 namespace {
 
 bool startsWith(const std::string& text, const std::string& prefix)
 {
     return text.compare(0, prefix.size(), prefix) == 0;
-}
-
-struct Include
-{
-    std::string name;
-    bool quoted;
-};
-
-std::vector<Include> includesOf(const std::string& text)
-{
-    std::vector<Include> includes;
-    std::istringstream lines(text);
-    for (std::string line; std::getline(lines, line);) {
-        std::istringstream words(line);
-        char hash = 0;
-        std::string directive;
-        std::string name;
-        if (!(words >> hash) || hash != '#' || !(words >> directive >> name) || directive != "include")
-            continue;
-        const bool quoted = name.front() == '"';
-        const std::size_t end = name.find(quoted ? '"' : '>', 1);
-        includes.push_back({name.substr(1, end - 1), quoted});
-    }
-    return includes;
-}
-
-/// Where the project's quoted includes start from, beside the folder of the file that has them.
-constexpr const char* k_roots[] = {"framework/src/", "framework/tests/", "src/", "cli/", "tests/", "bench/"};
-
-/// What an include names: the path of a file of ours, or as it stands, below "std/" when it is in no folder.
-std::string targetOf(const Include& include, const std::string& file)
-{
-    if (!include.quoted) {
-        if (startsWith(include.name, "zu/"))
-            return "framework/include/" + include.name;
-        if (startsWith(include.name, "zupackage/"))
-            return "include/" + include.name;
-        return include.name.find('/') == std::string::npos ? "std/" + include.name : include.name;
-    }
-    std::vector<std::string> roots = {fs::path(file).parent_path().string() + '/'};
-    std::copy_if(std::begin(k_roots), std::end(k_roots), std::back_inserter(roots),
-                 [&file](const char* root) { return startsWith(file, root); });
-    roots.insert(roots.end(), std::begin(k_roots), std::end(k_roots));
-    for (const std::string& root : roots)
-        if (fs::exists(test::sourcePath(root + include.name)))
-            return root + include.name;
-    return "nowhere/" + include.name;
 }
 
 /// What the files under a path prefix may include, by prefixes of what an include names. The first that fits a file
@@ -85,6 +35,7 @@ const std::vector<Rule> k_rules = {
     // Public headers need the framework where values of its own stand in the interface, and nowhere else.
     {"include/zupackage/vxvalue.hpp", {k_package, k_framework, "std/"}},
     {"include/zupackage/package_info2.hpp", {k_package, k_framework, "std/"}},
+    {"include/zupackage/package_info.hpp", {k_package, "framework/include/zu/forward.hpp", "QtCore/qglobal.h", "std/"}},
     {"include/zupackage/", {k_package, "QtCore/qglobal.h", "std/"}},
 
     // The rooms of the package library.
@@ -116,8 +67,8 @@ std::vector<std::string> forbiddenIncludes(const std::string& file, const std::s
     if (rule == k_rules.end())
         return {"anything, having no rule"};
     std::vector<std::string> forbidden;
-    for (const Include& include : includesOf(text)) {
-        const std::string target = targetOf(include, file);
+    for (const test::Include& include : test::includesOf(text)) {
+        const std::string target = test::targetOf(include, file);
         if (std::none_of(rule->allowed.begin(), rule->allowed.end(),
                          [&target](const std::string& prefix) { return startsWith(target, prefix); }))
             forbidden.push_back(target);
@@ -125,23 +76,12 @@ std::vector<std::string> forbiddenIncludes(const std::string& file, const std::s
     return forbidden;
 }
 
-std::vector<fs::path> sourcesAndHeaders()
-{
-    std::vector<fs::path> files;
-    for (const char* folder : {"bench", "framework", "include", "src", "cli", "examples", "tests"})
-        for (const auto& entry : fs::recursive_directory_iterator(test::sourcePath(folder)))
-            if (entry.path().extension() == ".cpp" || entry.path().extension() == ".hpp")
-                files.push_back(entry.path());
-    return files;
-}
-
 } // namespace
 
 TEST(Structure, EveryIncludeFollowsTheDirections)
 {
-    for (const fs::path& path : sourcesAndHeaders()) {
-        const std::string file = fs::relative(path, test::sourcePath("")).string();
-        for (const std::string& forbidden : forbiddenIncludes(file, test::readFile(path)))
+    for (const std::string& file : test::sourcesAndHeaders()) {
+        for (const std::string& forbidden : forbiddenIncludes(file, test::readFile(test::sourcePath(file))))
             ADD_FAILURE() << file << " must not include " << forbidden;
     }
 }
@@ -154,6 +94,7 @@ TEST(Structure, EachForbiddenDirectionIsFound)
         {"framework/include/zu/x.hpp", "#include <spdlog/spdlog.h>"},
         {"framework/tests/x.cpp", "#include \"log_handlers.hpp\""},
         {"include/zupackage/x.hpp", "#include <zu/log.hpp>"},
+        {"include/zupackage/package_info.hpp", "#include <zu/any_value.hpp>"},
         {"include/zupackage/x.hpp", "#include <QtCore/QString>"},
         {"src/xml/x.cpp", "#include \"records/behavior_info_p.hpp\""},
         {"src/xml/x.cpp", "#include \"records/keyed_texts.hpp\""},

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <zu/any_iterator.hpp>
 #include <zu/native/native.hpp>
 #include <zu/type/dynamic.hpp>
+#include <zu/value/any_value.hpp>
 
 namespace zu {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <zu/any_iterator.hpp>
 #include <zu/native/native.hpp>
 #include <zu/type/function.hpp>
+#include <zu/value/type_of.hpp>
 
 #include <boost/function/function_fwd.hpp>
 

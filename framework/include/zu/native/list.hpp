@@ -1,7 +1,7 @@
 #pragma once
 
-#include <zu/any_iterator.hpp>
 #include <zu/native/native.hpp>
+#include <zu/native/position.hpp>
 #include <zu/type/list.hpp>
 
 #include <list>

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <zu/any_iterator.hpp>
 #include <zu/native/native.hpp>
 #include <zu/type/float.hpp>
 #include <zu/type/int.hpp>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <zu/any_iterator.hpp>
 #include <zu/native/native.hpp>
 #include <zu/registry.hpp>
 #include <zu/type/dynamic.hpp>
 #include <zu/type/object.hpp>
+#include <zu/value/any_reference.hpp>
 
 #include <memory>
 #include <utility>

@@ -1,22 +1,9 @@
 #pragma once
 
-#include <zu/any_iterator.hpp>
 #include <zu/native/native.hpp>
+#include <zu/type/unknown.hpp>
 
 namespace zu {
-
-/// The base of interfaces of types that nothing more is known of.
-class ZU_EXPORT UnknownTypeInterface : public TypeInterface
-{
-public:
-    ~UnknownTypeInterface() override;
-
-protected:
-    explicit UnknownTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
-        : TypeInterface(info, TypeKind::Unknown, wordSize)
-    {
-    }
-};
 
 namespace detail {
 
@@ -28,11 +15,6 @@ class OpaqueType : public Native<T, UnknownTypeInterface>
 };
 
 } // namespace detail
-
-template <class T, class>
-struct NativeType : detail::MadeAs<detail::OpaqueType<T>>
-{
-};
 
 template <>
 struct NativeType<void>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <zu/any_iterator.hpp>
 #include <zu/native/native.hpp>
 #include <zu/registry.hpp>
 #include <zu/type/struct.hpp>
+#include <zu/value/any_reference.hpp>
 
 #include <functional>
 #include <memory>

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <zu/any_iterator.hpp>
 #include <zu/native/native.hpp>
 #include <zu/type/raw.hpp>
 #include <zu/type/string.hpp>

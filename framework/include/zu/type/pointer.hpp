@@ -5,7 +5,7 @@
 namespace zu {
 
 /// Whether a pointer shares the ownership of what it points to.
-enum class PointerKind
+enum class PointerKind : int
 {
     Raw,
     Shared

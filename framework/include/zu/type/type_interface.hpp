@@ -1,5 +1,6 @@
 #pragma once
 
+#include <zu/forward.hpp>
 #include <zu/type_info.hpp>
 
 #include <cstddef>
@@ -7,10 +8,6 @@
 #include <string_view>
 
 namespace zu {
-
-class AnyReference;
-class AnyValue;
-class AnyIterator;
 
 /// What can be done with a value, whatever its C++ type. The numbers are part of the interface.
 enum class TypeKind : int

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <zu/native/struct.hpp>
+#include <zu/any_value.hpp>
 
 #include <stdexcept>
 #include <string>

@@ -1,9 +1,8 @@
 #pragma once
 
-// A part of any_iterator.hpp, which includes it where the value classes are complete.
-
 #include <zu/native/native.hpp>
 #include <zu/type/iterator.hpp>
+#include <zu/value/any_iterator.hpp>
 
 #include <vector>
 

@@ -1,0 +1,145 @@
+#pragma once
+
+#include <zu/value/any_reference.hpp>
+
+#include <string>
+#include <utility>
+
+namespace zu {
+
+/// Owns a value of any type: a deep copy of exactly what it was given. Copies are deep, a moved-from one is empty.
+/// Values that fit into a word are held in place, others on the heap.
+///
+/// What is inherited reads the value; reference() and getIf() give it to write. Different AnyValues may be used from
+/// different threads; one that is written needs the caller's lock.
+///
+/// Nesting is limited where work grows with it: copying a value nested deeper than 1,000 AnyValues throws
+/// std::length_error; destruction takes any depth.
+class ZU_EXPORT AnyValue : public AnyReferenceBase
+{
+public:
+    /// Empty: no type.
+    AnyValue() noexcept = default;
+
+    /// A default value of `type`; empty when that is null. Throws std::runtime_error when the type has no default
+    /// value.
+    explicit AnyValue(const TypeInterface* type);
+
+    /// A copy of what `source` refers to; empty when that is empty.
+    explicit AnyValue(const AnyReferenceBase& source);
+
+    AnyValue(const AnyValue& other) : AnyReferenceBase(other) { copyFrom(other); }
+    AnyValue(AnyValue&& other) noexcept : AnyReferenceBase() { takeFrom(other); }
+    AnyValue& operator=(const AnyValue& other)
+    {
+        AnyValue(other).swap(*this);
+        return *this;
+    }
+    AnyValue& operator=(AnyValue&& other) noexcept
+    {
+        AnyValue(std::move(other)).swap(*this);
+        return *this;
+    }
+    ~AnyValue() { clear(); }
+
+    /// Holds a copy of `object` (what it was moved into, for a temporary), of exactly its declared type. A C string and
+    /// a literal are held as std::string; a null C string throws std::invalid_argument.
+    template <class T>
+    static AnyValue from(T&& object);
+
+    /// A reference to the value, to write through; empty when this is. Valid until the AnyValue is assigned, moved or
+    /// destroyed.
+    AnyReference reference() noexcept { return isEmpty() ? AnyReference() : writable(); }
+
+    /// The same for reading only.
+    AnyReference reference() const noexcept { return AnyReference(static_cast<const AnyReferenceBase&>(*this)); }
+
+    /// The address of the value when it is exactly of type T, as told by TypeInfo; else null. Nothing is converted.
+    template <class T>
+    T* getIf()
+    {
+        return this->template holds<T>() ? static_cast<T*>(m_address) : nullptr;
+    }
+    template <class T>
+    const T* getIf() const
+    {
+        return AnyReferenceBase::getIf<T>();
+    }
+
+    /// Empties it.
+    void reset() noexcept { clear(); }
+
+    void swap(AnyValue& other) noexcept;
+
+private:
+    bool isInPlace() const noexcept { return m_address == &m_word; }
+    AnyReference writable() const noexcept;
+
+    void copyFrom(const AnyReferenceBase& source);
+    void takeFrom(AnyValue& other) noexcept;
+    void hold(const TypeInterface* type, const void* source);
+    void holdMoved(const TypeInterface* type, void* source);
+    void clear() noexcept
+    {
+        if (m_address && !isInPlace())
+            destroyHeld();
+        m_tagged = 0;
+        m_address = nullptr;
+    }
+    void destroyHeld() noexcept;
+    void placeAt(const TypeInterface* type, void* address) noexcept
+    {
+        m_tagged = reinterpret_cast<std::uintptr_t>(type) | k_readOnly;
+        m_address = address;
+    }
+
+    std::uint64_t m_word = 0;
+};
+
+inline void swap(AnyValue& a, AnyValue& b) noexcept { a.swap(b); }
+
+inline void AnyValue::takeFrom(AnyValue& other) noexcept
+{
+    m_tagged = other.m_tagged;
+    m_word = other.m_word;
+    m_address = other.isInPlace() ? &m_word : other.m_address;
+    other.m_tagged = 0;
+    other.m_address = nullptr;
+}
+
+inline void AnyValue::swap(AnyValue& other) noexcept
+{
+    AnyValue kept;
+    kept.takeFrom(other);
+    other.takeFrom(*this);
+    takeFrom(kept);
+}
+
+namespace detail {
+
+template <class T>
+inline constexpr bool isCString =
+    std::is_same_v<std::decay_t<T>, const char*> || std::is_same_v<std::decay_t<T>, char*>;
+
+ZU_EXPORT std::string textOf(const char* text);
+
+} // namespace detail
+
+template <class T>
+AnyValue AnyValue::from(T&& object)
+{
+    using Held = std::remove_cv_t<std::remove_reference_t<T>>;
+    if constexpr (detail::isCString<Held>) {
+        return from(detail::textOf(object));
+    } else {
+        static_assert(!std::is_array_v<Held>, "an array has no type interface; give a std::vector");
+        AnyValue value;
+        if constexpr (std::is_lvalue_reference_v<T> || std::is_const_v<std::remove_reference_t<T>>)
+            value.hold(typeOf<Held>(), std::addressof(object));
+        else
+            value.holdMoved(typeOf<Held>(), std::addressof(object));
+        return value;
+    }
+}
+
+} // namespace zu
