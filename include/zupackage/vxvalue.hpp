@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <iosfwd>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -35,6 +36,10 @@ public:
     VXError(const VXError&) noexcept = default;
     VXError& operator=(const VXError&) noexcept = default;
     ~VXError() override;
+
+private:
+    friend class VXFailure;
+    explicit VXError(const std::string& text);
 };
 
 /// Holds one of eight kinds of value; an Array holds further values. It owns what it holds: a copy copies the whole tree,
@@ -47,12 +52,17 @@ public:
 /// An Object that xAssertCompatibleType() makes has no bytes at all: size(), the conversion to bool, and copying it or what
 /// it is in throw VXError.
 ///
+/// Of the types that values convert to by themselves, there are the flag and the text. Another arithmetic type would be made
+/// of the flag (an Int of 42 would be 1), so that those conversions do not compile; numbers are read by name.
+///
 /// Not synchronised. Reading a Binary as a string changes the value even through a const reference, so that even readers
 /// of one value must take turns.
 class ZUPACKAGE_EXPORT VXValue
 {
     template <class T>
     static constexpr bool isFlag = std::is_same_v<T, bool> || std::is_same_v<T, std::vector<bool>::reference>;
+    template <class T>
+    static constexpr bool becomesVariant = !std::is_same_v<T, VXValue> && std::is_convertible_v<const T&, VXValue>;
 
 public:
     /// The kind of a value. The numbers are part of the interface.
@@ -82,11 +92,14 @@ public:
     VXValue(const TVXValueString& value); // NOLINT(google-explicit-constructor)
     /// A String of the characters up to the terminating zero. A null pointer throws.
     VXValue(const char* value); // NOLINT(google-explicit-constructor)
-    /// A Binary of a copy of the `size` bytes at `data`.
+    /// A Binary of a copy of the `size` bytes at `data`. A null pointer to more than no bytes throws.
     VXValue(const void* data, std::size_t size);
 
     /// An Array of the elements.
     static VXValue fromElements(std::vector<VXValue> elements);
+
+    /// A Binary that takes over the bytes, with the room that they have.
+    static VXValue fromBytes(TVXValueBytes bytes);
 
     VXValue(const VXValue& other);
     VXValue(VXValue&& other) noexcept
@@ -151,6 +164,47 @@ public:
     /// Whether an Array, String, Binary or Object is not empty, an Int or Float not zero, a Bool set. Throws for Invalid.
     operator bool() const; // NOLINT(google-explicit-constructor)
 
+    /// Does not compile: the number would be made of the flag. There are toInt() and toFloat().
+    template <class Number, class = std::enable_if_t<std::is_arithmetic_v<Number> && !std::is_same_v<Number, bool>>>
+    operator Number() const = delete; // NOLINT(google-explicit-constructor)
+
+    /// @name What a value of exactly that type holds
+    ///
+    /// For a value of another type, whatever it is, they throw as xAssertType() does where it is not lenient.
+    /// @{
+    int toInt() const;
+    float toFloat() const;
+    bool toBool() const;
+    const TVXValueBytes& toBinary() const;
+    /// @}
+
+    /// Equal when both are of the same type and hold the same: by the number, byte by byte, element by element. A Float that
+    /// is no number equals nothing. Of any depth, like copying.
+    friend bool operator==(const VXValue& left, const VXValue& right) { return left.equals(right); }
+    friend bool operator!=(const VXValue& left, const VXValue& right) { return !left.equals(right); }
+
+    /// The same with what a value is made from: value == 42, value == "text".
+    template <class Other, class = std::enable_if_t<becomesVariant<Other>>>
+    friend bool operator==(const VXValue& left, const Other& right)
+    {
+        return left.equals(right);
+    }
+    template <class Other, class = std::enable_if_t<becomesVariant<Other>>>
+    friend bool operator==(const Other& left, const VXValue& right)
+    {
+        return right.equals(left);
+    }
+    template <class Other, class = std::enable_if_t<becomesVariant<Other>>>
+    friend bool operator!=(const VXValue& left, const Other& right)
+    {
+        return !left.equals(right);
+    }
+    template <class Other, class = std::enable_if_t<becomesVariant<Other>>>
+    friend bool operator!=(const Other& left, const VXValue& right)
+    {
+        return !right.equals(left);
+    }
+
     /// The text of a String; throws for other types.
     ///
     /// A Binary of less than 100,000 bytes *becomes* a String first, with a warning on standard output: of its bytes and a
@@ -171,7 +225,8 @@ public:
 
     /// The value as text for people. Verbosity 0 and below gives nothing, 1 the values ("[1, "a"]"), 2 their types and
     /// addresses too, 3 and above a frame of tags around each. The asymmetries of the format (two prefixes before an
-    /// address, a closing Binary tag without an opening one at verbosity 2) are part of it.
+    /// address, a closing Binary tag without an opening one at verbosity 2) are part of it. Numbers are written as in the C
+    /// locale, whatever the process has.
     std::string dump(int verbosity) const;
 
 private:
@@ -196,6 +251,9 @@ private:
     void copyTree(const VXValue& other);
     void becomeString() const;
     void assertSize(std::int64_t size) const;
+    void requireExactly(Type type) const;
+    bool equals(const VXValue& other) const;
+    bool equalsButForElements(const VXValue& other) const;
     std::size_t count() const;
     bool hasElement(int index) const noexcept
     {
@@ -212,6 +270,9 @@ private:
 };
 
 static_assert(sizeof(VXValue) == 16, "the type and the payload, nothing else");
+
+/// Prints dump(1).
+ZUPACKAGE_EXPORT std::ostream& operator<<(std::ostream& out, const VXValue& value);
 
 /// How the host framework's type system sees a VXValue: as a dynamic, whose content is what the value holds. Registered when
 /// the library is loaded, so that values of the framework convert to a VXValue as told at set(), and a VXValue to whatever

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <zupackage/vxvalue.hpp>
+
 #include <string>
 
 namespace VX {
@@ -12,9 +14,16 @@ struct SourcePlace
 };
 
 /// Throws the VXError of a method of the variant.
-[[noreturn]] void fail(const std::string& method, const std::string& message, const SourcePlace& place);
+[[noreturn]] void fail(const char* method, const std::string& message, const SourcePlace& place);
+
+/// Throws the VXError of a method that wanted a value of another type.
+[[noreturn]] void failForType(const char* method, const VXValue& value, VXValue::Type expected);
 
 /// Throws VXError, with the place as its message, unless the condition holds.
-void assertThat(bool condition, const SourcePlace& place);
+inline void assertThat(bool condition, const SourcePlace& place)
+{
+    if (!condition)
+        fail("Assert failed", std::string(place.file) + ":" + std::to_string(place.line), place);
+}
 
 } // namespace VX

@@ -11,6 +11,7 @@ namespace VX {
 namespace {
 
 constexpr char k_file[] = "src/vxvalue.cpp";
+constexpr char k_assertType[] = "xAssertType: type error";
 
 // Room that a value gets when it becomes one of these types: callers fill it piece by piece.
 constexpr std::size_t k_arrayRoom = 32;
@@ -20,23 +21,7 @@ constexpr std::size_t k_binaryRoom = 1024;
 /// From here on a Binary is too large to be read as a string.
 constexpr std::size_t k_stringViewLimit = 100'000;
 
-std::string errorText(const std::string& module, const std::string& method, const std::string& message)
-{
-    std::string text;
-    if (!module.empty())
-        text += "\t" + module;
-    if (!method.empty())
-        text += "::" + method;
-    return text + "\n\t" + message;
-}
-
 constexpr SourcePlace here(int line) { return {k_file, line}; }
-
-std::string typeErrorMessage(const VXValue& value, const std::string& expected)
-{
-    return "Expected a " + expected + " but received a " + VXValue::TypeToString(value.type()) +
-           " (vxvalue contents: " + value.dump(1) + " )";
-}
 
 template <class Container>
 std::unique_ptr<Container> withRoom(std::size_t room)
@@ -47,14 +32,6 @@ std::unique_ptr<Container> withRoom(std::size_t room)
 }
 
 } // namespace
-
-VXError::VXError(const std::string& module, const std::string& method, const std::string& message, const char* /*file*/,
-                 int /*line*/)
-    : std::runtime_error(errorText(module, method, message))
-{
-}
-
-VXError::~VXError() = default;
 
 VXValue::VXValue(int value) noexcept : m_type(Type::Int) { m_value.integer = value; }
 
@@ -69,10 +46,12 @@ VXValue::VXValue(const char* value)
     m_type = Type::String;
 }
 
-VXValue::VXValue(const void* data, std::size_t size) : m_type(Type::Binary)
+VXValue::VXValue(const void* data, std::size_t size)
 {
+    assertThat(data != nullptr || size == 0, here(__LINE__));
     const auto* first = static_cast<const unsigned char*>(data);
     m_value.bytes = new TVXValueBytes(first, first + size);
+    m_type = Type::Binary;
 }
 
 VXValue VXValue::fromElements(std::vector<VXValue> elements)
@@ -80,6 +59,14 @@ VXValue VXValue::fromElements(std::vector<VXValue> elements)
     VXValue value;
     value.m_value.array = new Array(std::move(elements));
     value.m_type = Type::Array;
+    return value;
+}
+
+VXValue VXValue::fromBytes(TVXValueBytes bytes)
+{
+    VXValue value;
+    value.m_value.bytes = new TVXValueBytes(std::move(bytes));
+    value.m_type = Type::Binary;
     return value;
 }
 
@@ -188,6 +175,36 @@ VXValue::operator bool() const
     fail("const bool() const", "Cannot cast to bool an VXValue of invalid type.", here(__LINE__));
 }
 
+int VXValue::toInt() const
+{
+    requireExactly(Type::Int);
+    return m_value.integer;
+}
+
+float VXValue::toFloat() const
+{
+    requireExactly(Type::Float);
+    return m_value.real;
+}
+
+bool VXValue::toBool() const
+{
+    requireExactly(Type::Bool);
+    return m_value.boolean;
+}
+
+const TVXValueBytes& VXValue::toBinary() const
+{
+    requireExactly(Type::Binary);
+    return *m_value.bytes;
+}
+
+void VXValue::requireExactly(Type type) const
+{
+    if (m_type != type)
+        failForType(k_assertType, *this, type);
+}
+
 VXValue::operator const TVXValueString&() const
 {
     if (m_type == Type::Binary && m_value.bytes->size() < k_stringViewLimit)
@@ -218,18 +235,18 @@ void VXValue::xAssertType(Type type) const
 {
     if (m_type == type)
         return;
-    const std::string expected = TypeToString(type); // refuses a number that is no type, whatever the value is
+    TypeToString(type); // refuses a number that is no type, whatever the value is
     if (type != Type::Int && m_type != Type::Float)
-        fail("xAssertType: type error", typeErrorMessage(*this, expected), here(__LINE__));
+        failForType(k_assertType, *this, type);
 }
 
 void VXValue::xAssertCompatibleType(Type type)
 {
     if (m_type == type)
         return;
-    const std::string expected = TypeToString(type); // refuses a number that is no type
+    TypeToString(type); // refuses a number that is no type
     if (m_type != Type::Invalid)
-        fail("xAssertCompatibleType: type error", typeErrorMessage(*this, expected), here(__LINE__));
+        failForType("xAssertCompatibleType: type error", *this, type);
     Payload fresh;
     if (type == Type::Array)
         fresh.array = withRoom<Array>(k_arrayRoom).release();

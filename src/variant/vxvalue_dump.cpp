@@ -1,24 +1,62 @@
+#include "variant/vxvalue_dump.hpp"
+
 #include <zupackage/vxvalue.hpp>
 
-#include <cinttypes>
-#include <cstdio>
+#include <array>
+#include <charconv>
+#include <cstring>
+#include <ostream>
 
 namespace VX {
 
 namespace {
 
-template <class... Arguments>
-std::string formatted(const char* format, Arguments... arguments)
+std::string decimal(int number) { return std::to_string(number); }
+
+/// At least so many upper-case digits, with zeros before them.
+std::string hexadecimal(std::uint64_t bits, std::size_t digits)
 {
-    char buffer[32];
-    std::snprintf(buffer, sizeof buffer, format, arguments...); // NOLINT(cppcoreguidelines-pro-type-vararg)
-    return buffer;
+    static constexpr char k_digits[] = "0123456789ABCDEF";
+    std::string text(digits, '0');
+    for (auto digit = text.rbegin(); digit != text.rend(); ++digit, bits >>= 4U)
+        *digit = k_digits[bits & 0xFU];
+    return text;
 }
 
-std::string decimal(int number) { return formatted("%d", number); }
+/// As a pointer prints, with digits of our own: as many on every platform.
+std::string address(std::uint64_t bits) { return "0x" + hexadecimal(bits, 16); }
 
-/// As a pointer prints, with digits of our own: 16 upper-case hexadecimal ones on every platform.
-std::string address(std::uint64_t bits) { return "0x" + formatted("%016" PRIX64, bits); }
+/// A backslash and the decimal number of a byte.
+struct EscapedByte
+{
+    char text[4];
+    std::uint8_t size;
+};
+
+constexpr std::array<EscapedByte, 256> escapedBytes()
+{
+    std::array<EscapedByte, 256> table{};
+    for (unsigned byte = 0; byte < table.size(); ++byte) {
+        EscapedByte& escaped = table[byte];
+        escaped.text[escaped.size++] = '\\';
+        for (unsigned unit = 100; unit > 0; unit /= 10)
+            if (byte >= unit || unit == 1)
+                escaped.text[escaped.size++] = static_cast<char>('0' + byte / unit % 10);
+    }
+    return table;
+}
+
+// Made once, because a Binary has many bytes.
+constexpr std::array<EscapedByte, 256> k_escapedBytes = escapedBytes();
+
+/// As printf("%.6g") has it in the C locale.
+std::string sixDigits(float number)
+{
+    char buffer[32];
+    const auto result =
+        std::to_chars(std::begin(buffer), std::end(buffer), double(number), std::chars_format::general, 6);
+    return {buffer, result.ptr};
+}
 
 } // namespace
 
@@ -26,9 +64,12 @@ std::string address(std::uint64_t bits) { return "0x" + formatted("%016" PRIX64,
 class VXValueDump
 {
 public:
-    explicit VXValueDump(int verbosity) : m_labelled(verbosity >= 2), m_framed(verbosity >= 3) { m_text.reserve(1024); }
+    /// Writes behind what stands in `text`.
+    VXValueDump(std::string& text, int verbosity) : m_labelled(verbosity >= 2), m_framed(verbosity >= 3), m_text(text)
+    {
+    }
 
-    std::string of(const VXValue& root)
+    void write(const VXValue& root)
     {
         begin(root);
         while (!m_open.empty()) {
@@ -40,7 +81,6 @@ public:
             else
                 endArray();
         }
-        return std::move(m_text);
     }
 
 private:
@@ -102,17 +142,17 @@ private:
             m_text += value.m_value.boolean ? "true" : "false";
             return;
         case VXValue::Type::Int:
-            label("Int: " + formatted("0x%08X", static_cast<std::uint32_t>(value.m_value.integer)) + " (");
+            label("Int: 0x" + hexadecimal(static_cast<std::uint32_t>(value.m_value.integer), 8) + " (");
             m_text += decimal(value.m_value.integer);
             label(")");
             break;
         case VXValue::Type::Float:
             label("Float: ");
-            m_text += formatted("%.6g", static_cast<double>(value.m_value.real));
+            m_text += sixDigits(value.m_value.real);
             break;
         case VXValue::Type::String:
             label("String of size " + decimal(value.size()) + ": ");
-            m_text += '"' + *value.m_value.string + '"';
+            (m_text += '"').append(*value.m_value.string) += '"';
             break;
         case VXValue::Type::Object:
             if (value.m_value.bytes != nullptr)
@@ -133,8 +173,14 @@ private:
     {
         if (m_framed)
             m_text += "\n<Binary>Binary: " + decimal(static_cast<int>(bytes.size())) + " bytes(s):\n";
-        for (const unsigned char byte : bytes)
-            m_text += '\\' + decimal(byte);
+        const std::size_t before = m_text.size();
+        m_text.resize(before + sizeof EscapedByte::text * bytes.size());
+        char* end = m_text.data() + before;
+        for (const unsigned char byte : bytes) {
+            std::memcpy(end, k_escapedBytes[byte].text, sizeof EscapedByte::text);
+            end += k_escapedBytes[byte].size;
+        }
+        m_text.resize(static_cast<std::size_t>(end - m_text.data()));
         label("</Binary>\n"); // also at verbosity 2, which opens none: part of the format
     }
 
@@ -146,13 +192,25 @@ private:
 
     const bool m_labelled;
     const bool m_framed;
-    std::string m_text;
+    std::string& m_text;
     std::vector<OpenArray> m_open;
 };
 
+void appendDump(std::string& text, const VXValue& value, int verbosity)
+{
+    if (verbosity > 0)
+        VXValueDump(text, verbosity).write(value);
+}
+
 std::string VXValue::dump(int verbosity) const
 {
-    return verbosity <= 0 ? std::string() : VXValueDump(verbosity).of(*this);
+    std::string text;
+    if (verbosity > 0)
+        text.reserve(1024);
+    appendDump(text, *this, verbosity);
+    return text;
 }
+
+std::ostream& operator<<(std::ostream& out, const VXValue& value) { return out << value.dump(1); }
 
 } // namespace VX

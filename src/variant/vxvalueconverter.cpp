@@ -16,6 +16,9 @@ namespace {
     fail("conversion", message, {"src/vxvalueconverter.cpp", line});
 }
 
+/// Room behind the bytes of a Binary: callers of the old layer append to what they get.
+constexpr std::size_t k_spareBytes = 1024;
+
 class Converter : public zu::TypeVisitor
 {
 public:
@@ -76,7 +79,14 @@ public:
         result = convertedFrom(content, content.kind() == zu::TypeKind::Dynamic ? m_depth + 1 : m_depth);
     }
 
-    void visitRaw(std::string_view bytes) override { result = VXValue(bytes.data(), bytes.size()); }
+    void visitRaw(std::string_view bytes) override
+    {
+        TVXValueBytes copy;
+        copy.reserve(bytes.size() + k_spareBytes);
+        copy.assign(bytes.begin(), bytes.end());
+        result = VXValue::fromBytes(std::move(copy));
+    }
+
     void visitIterator(const zu::AnyReference& /*iterator*/) override { refuse("iterator type not handled", __LINE__); }
     void visitVarArgs(const zu::AnyReference& arguments) override { convertElements(arguments); }
     void visitOptional(const zu::AnyReference& /*optional*/) override { refuse("optional type not handled", __LINE__); }

@@ -1,3 +1,4 @@
+#include "support/comma_locale.hpp"
 #include "support/variants.hpp"
 
 #include <zupackage/vxvalue.hpp>
@@ -124,6 +125,43 @@ TEST(VXValueDump, AtVerbosityThreeFramesAnArrayAndItsElements)
                   labels(value[1], "Array") + "\n<Vector>Vector of 1 elem(s):" + "\n<elem>\n\n<VxValue>" +
                   labels(value[1][0], "Int") + "Int: 0x0000002A (42)\n\n</VxValue>\n\n</elem>" +
                   "\n</Vector>\n</VxValue>\n\n</elem>" + "\n</Vector>\n</VxValue>\n");
+}
+
+TEST(VXValueDump, WritesAFloatAsPrintfDoesInTheCLocale)
+{
+    using Limits = std::numeric_limits<float>;
+    std::vector<float> numbers = {0.0F,
+                                  -0.0F,
+                                  Limits::min(),
+                                  Limits::max(),
+                                  Limits::denorm_min(),
+                                  Limits::infinity(),
+                                  -Limits::infinity(),
+                                  Limits::quiet_NaN(),
+                                  1e5F,
+                                  999999.5F,
+                                  1e6F,
+                                  1e-4F,
+                                  1e-5F};
+    for (std::uint32_t bits = 0; bits < 0xFF000000U; bits += 0x3FEDCB) {
+        numbers.emplace_back();
+        std::memcpy(&numbers.back(), &bits, sizeof bits);
+    }
+    for (const float number : numbers) {
+        char text[32];
+        std::snprintf(text, sizeof text, "%.6g", static_cast<double>(number));
+        EXPECT_EQ(VXValue(number).dump(1), text);
+    }
+}
+
+TEST(VXValueDump, DoesNotFollowTheLocale)
+{
+    const zu::test::CommaLocale locale;
+    char text[8];
+    std::snprintf(text, sizeof text, "%.1f", 0.5);
+    ASSERT_STREQ(text, "0,5");
+    EXPECT_EQ(array({0.5F, 1'000'000, 1e10F}).dump(1), "[0.5, 1000000, 1e+10]");
+    EXPECT_EQ(errorOf([] { VXValue(1'000'000).xAssertType(Type::String); }), typeError("String", "Int", "1000000"));
 }
 
 } // namespace VX

@@ -247,4 +247,11 @@ TEST(VXValueWidth, IsNoLimitToCopyingDestroyingAndDumping)
     EXPECT_THAT(copy.dump(2), StartsWith("VxValue at 0x0x"));
 }
 
+TEST(VXValueTree, ComparesAtAnyDepth)
+{
+    const VXValue value = deep(k_levels, 1);
+    EXPECT_TRUE(value == VXValue(value));
+    EXPECT_FALSE(value == deep(k_levels + 1, 1));
+}
+
 } // namespace VX

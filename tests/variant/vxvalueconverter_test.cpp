@@ -194,6 +194,12 @@ TEST(VXConversion, DynamicsBecomeWhatTheyHold)
               "[1, \"a\"]");
 }
 
+TEST(VXConversion, ABinaryHasRoomForMoreBytes)
+{
+    const VXValue value = converted(zu::Buffer{std::byte{1}, std::byte{2}});
+    EXPECT_GE(value.toBinary().capacity(), 2u + 1024u);
+}
+
 TEST(VXConversion, BytesBecomeABinary)
 {
     EXPECT_EQ(shown(zu::Buffer{std::byte{0}, std::byte{255}}), "\\0\\255");
