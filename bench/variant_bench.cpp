@@ -167,6 +167,57 @@ void decodePackage(benchmark::State& state)
 }
 BENCHMARK(decodePackage)->Name("decode")->Arg(1)->Arg(10)->Arg(100)->Arg(1000);
 
+void compareVariants(benchmark::State& state)
+{
+    PackageInfo source = package(100);
+    const VXValue left = encoded(source);
+    const VXValue right = encoded(source);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(left == right);
+}
+BENCHMARK(compareVariants)->Name("equality/VXValue");
+
+void compareJson(benchmark::State& state)
+{
+    const PackageInfo source = package(100);
+    const json left = jsonOf(source);
+    const json right = jsonOf(source);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(left == right);
+}
+BENCHMARK(compareJson)->Name("equality/json");
+
+/// The worst that its text can be: four characters for each byte.
+const std::vector<unsigned char>& manyBytes()
+{
+    static const std::vector<unsigned char> bytes(1024 * 1024, 255);
+    return bytes;
+}
+
+void failForBinary(benchmark::State& state)
+{
+    const VXValue value(manyBytes().data(), manyBytes().size());
+    for (auto _ : state) {
+        try {
+            value.xAssertType(VXValue::Type::Array);
+        } catch (const VX::VXError& error) {
+            benchmark::DoNotOptimize(error.what());
+        }
+    }
+}
+BENCHMARK(failForBinary)->Name("type error of 1 MiB/VXError");
+
+void appendBytes(benchmark::State& state)
+{
+    for (auto _ : state) {
+        std::string text;
+        for (const unsigned char byte : manyBytes())
+            (text += '\\') += std::to_string(byte);
+        benchmark::DoNotOptimize(text.data());
+    }
+}
+BENCHMARK(appendBytes)->Name("type error of 1 MiB/its bytes appended");
+
 // Growth has no target here: 1,000 behaviors leave the caches that 100 fit into, so that any tree grows by more than ten
 // times. `growth`, which counts instructions, has one.
 std::vector<bench::Target> targets()
@@ -174,6 +225,8 @@ std::vector<bench::Target> targets()
     return {{"encode/VXValue", "encode/json", 1.0},
             {"deep copy and destroy/VXValue", "deep copy and destroy/json", 1.0},
             {"deep copy and destroy/VXValue", "deep copy and destroy/QVariantList", 0},
+            {"equality/VXValue", "equality/json", 1.3},
+            {"type error of 1 MiB/VXError", "type error of 1 MiB/its bytes appended", 1.0},
             {"toVXValue/10", "toVXValue/1", 0},
             {"toVXValue/100", "toVXValue/10", 0},
             {"toVXValue/1000", "toVXValue/100", 0},

@@ -18,18 +18,19 @@ bool VXValue::equals(const VXValue& other) const
 {
     if (!equalsButForElements(other))
         return false;
-    std::vector<std::pair<const VXValue*, const VXValue*>> pending{{this, &other}};
+    std::vector<std::pair<const Array*, const Array*>> pending;
+    if (m_type == Type::Array)
+        pending.emplace_back(m_value.array, other.m_value.array);
     while (!pending.empty()) {
         const auto [left, right] = pending.back();
         pending.pop_back();
-        if (left->m_type != Type::Array)
-            continue;
-        for (std::size_t i = 0; i < left->m_value.array->size(); ++i) {
-            const VXValue& element = (*left->m_value.array)[i];
-            if (!element.equalsButForElements((*right->m_value.array)[i]))
+        auto counterpart = right->begin();
+        for (const VXValue& element : *left) {
+            if (!element.equalsButForElements(*counterpart))
                 return false;
-            if (element.m_type == Type::Array)
-                pending.emplace_back(&element, &(*right->m_value.array)[i]);
+            if (element.m_type == Type::Array && !element.m_value.array->empty())
+                pending.emplace_back(element.m_value.array, counterpart->m_value.array);
+            ++counterpart;
         }
     }
     return true;
