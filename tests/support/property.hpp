@@ -6,14 +6,25 @@
 #include <iostream>
 #include <rapidcheck.h>
 #include <sstream>
+#include <string>
 
 namespace zu::test {
 
-/// Checks a property on `count` generated inputs and prints the seed; with RC_PARAMS="seed=..." in the environment the
-/// same inputs come again. A failure shows the smallest counterexample.
-template <class Property>
-void checkProperty(int count, Property&& property)
+/// Of 100 inputs that a property asks for, how many it gets: ZU_PROPERTY_PERCENT in the environment, else all. Builds in
+/// which inputs are slow set it.
+inline int propertyPercent()
 {
+    const char* percent = std::getenv("ZU_PROPERTY_PERCENT");
+    return percent ? std::stoi(percent) : 100;
+}
+
+/// Checks a property on `count` generated inputs, or the propertyPercent() of them, and prints the seed; with
+/// RC_PARAMS="seed=..." in the environment the same inputs come again. A failure shows the smallest counterexample.
+/// @return the number of inputs that it was checked on.
+template <class Property>
+int checkProperty(int count, Property&& property)
+{
+    count = count * propertyPercent() / 100;
     namespace detail = rc::detail;
     const testing::TestInfo& test = *testing::UnitTest::GetInstance()->current_test_info();
     detail::TestParams params = detail::configuration().testParams;
@@ -25,6 +36,7 @@ void checkProperty(int count, Property&& property)
     std::ostringstream message;
     detail::printResultMessage(result, message);
     EXPECT_TRUE(result.template is<detail::SuccessResult>()) << message.str() << "\nseed " << params.seed;
+    return count;
 }
 
 } // namespace zu::test
