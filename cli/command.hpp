@@ -1,7 +1,8 @@
 #pragma once
 
 #include <functional>
-#include <string_view>
+#include <string>
+#include <vector>
 
 namespace CLI {
 class App;
@@ -18,17 +19,26 @@ enum ExitCode : int
     k_inputFailed = 3 ///< something could not be read
 };
 
+/// What a command takes on the command line.
+class Arguments
+{
+public:
+    explicit Arguments(CLI::App& parser) : m_parser(parser) {}
+
+    /// One or more values, which `values` holds once the command line is parsed.
+    void require(std::vector<std::string>& values, const char* name, const char* type, const char* help);
+
+private:
+    CLI::App& m_parser;
+};
+
 /// One subcommand of the program.
 struct Command
 {
     const char* name;
     const char* summary;
-    /// Adds the command's arguments to `app`; the result runs the command once they are parsed.
-    std::function<ExitCode()> (*prepare)(CLI::App& app);
+    /// Adds what the command takes to `arguments`; the result runs the command once they are parsed.
+    std::function<ExitCode()> (*prepare)(Arguments& arguments);
 };
-
-/// Writes the whole text to standard output at once.
-/// @return false when it could not be written; standard error says why then.
-bool writeOutput(std::string_view text);
 
 } // namespace zu::cli

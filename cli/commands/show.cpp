@@ -1,10 +1,9 @@
 #include "commands/show.hpp"
 
 #include "manifest_source.hpp"
+#include "output.hpp"
 
 #include <zupackage/package_info.hpp>
-
-#include <CLI/CLI.hpp>
 
 #include <memory>
 #include <sstream>
@@ -34,12 +33,11 @@ ExitCode show(const std::vector<std::string>& sources)
     return result;
 }
 
-std::function<ExitCode()> prepare(CLI::App& app)
+std::function<ExitCode()> prepare(Arguments& arguments)
 {
     auto sources = std::make_shared<std::vector<std::string>>();
-    app.add_option("SOURCE", *sources, "A manifest file, a package folder (its manifest.xml), or - for standard input")
-        ->required()
-        ->type_name("FILE|FOLDER|-");
+    arguments.require(*sources, "SOURCE", "FILE|FOLDER|-",
+                      "A manifest file, a package folder (its manifest.xml), or - for standard input");
     return [sources] { return show(*sources); };
 }
 
