@@ -163,8 +163,8 @@ private:
     const std::unique_ptr<BehaviorInfoPrivate> m_p;
 };
 
-/// Prints the behavior for people, an item a line, flushed line by line. Flags print as 1 or 0, unless
-/// the stream's own format says otherwise. The separator between tags is carried over from one language to the next
+/// Prints the behavior for people, an item a line, flushed line by line. Flags print as 1 or 0,
+/// whatever the format of the stream. The separator between tags is carried over from one language to the next
 /// ("  fr -> , c"); readers of these texts expect it.
 ZUPACKAGE_EXPORT std::ostream& operator<<(std::ostream& out, const BehaviorInfo& behavior);
 

@@ -275,8 +275,8 @@ private:
     const std::unique_ptr<PackageInfoPrivate> m_p;
 };
 
-/// Prints the package for people, an item a line, flushed line by line. Flags print as 1 or 0, unless
-/// the stream's own format says otherwise. Installer, services, executable files and description languages are not
+/// Prints the package for people, an item a line, flushed line by line. Flags print as 1 or 0,
+/// whatever the format of the stream. Installer, services, executable files and description languages are not
 /// printed.
 ZUPACKAGE_EXPORT std::ostream& operator<<(std::ostream& out, const PackageInfo& package);
 

@@ -49,7 +49,7 @@ void dump(std::ostream& out, const zu::BehaviorInfoPrivate& record)
 {
     out << "Path: " << record.path << std::endl;
     out << "Nature: " << record.nature << std::endl;
-    out << "UserRequestable" << record.userRequestable << std::endl;
+    out << "UserRequestable" << flagText(record.userRequestable) << std::endl;
     out << "Names: " << std::endl;
     dumpTexts(out, record.langToName);
     out << "Descriptions:" << std::endl;

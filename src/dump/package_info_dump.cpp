@@ -11,7 +11,7 @@ void dumpIdentity(std::ostream& out, const zu::PackageInfoPrivate& package)
     out << "UUID: " << package.uuid << std::endl;
     out << "Version: " << package.version << std::endl;
     out << "Type Version: " << package.typeVersion << std::endl;
-    out << "Install Only At Startup: " << package.installOnlyAtStartup << std::endl;
+    out << "Install Only At Startup: " << flagText(package.installOnlyAtStartup) << std::endl;
     out << "Author: " << package.author << std::endl;
     out << "Organization: " << package.organization << std::endl;
     out << "Date: " << package.date << std::endl;
