@@ -8,25 +8,24 @@ namespace zupackage {
 namespace {
 
 /// Every child node of the container adds its text to the list under its attribute `keyName`.
-void appendTexts(std::map<std::string, std::list<std::string>>& texts, const QDomNode& container,
-                 std::string_view keyName)
+void appendTexts(std::map<std::string, std::list<std::string>>& texts, xml::Node container, std::string_view keyName)
 {
-    for (const QDomNode& child : xml::children(container))
-        texts[xml::attribute(child, keyName)].push_back(xml::text(child));
+    for (const xml::Node child : container.children())
+        texts[child.attribute(keyName)].push_back(child.text());
 }
 
-void addPermissions(std::list<std::string>& permissions, const QDomNode& container)
+void addPermissions(std::list<std::string>& permissions, xml::Node container)
 {
-    for (const QDomNode& child : xml::children(container))
-        addPermission(permissions, xml::name(child));
+    for (const xml::Node child : container.children())
+        addPermission(permissions, std::string(child.name()));
 }
 
-void fill(zu::BehaviorInfoPrivate& record, const QDomNode& element)
+void fill(zu::BehaviorInfoPrivate& record, xml::Node element)
 {
     using namespace names;
-    record.path = xml::attribute(element, k_path);
-    for (const QDomNode& child : xml::children(element)) {
-        const std::string name = xml::name(child);
+    record.path = element.attribute(k_path);
+    for (const xml::Node child : element.children()) {
+        const std::string_view name = child.name();
         if (name == k_userRequestable)
             record.userRequestable = true;
         else if (name == k_names)
@@ -36,7 +35,7 @@ void fill(zu::BehaviorInfoPrivate& record, const QDomNode& element)
         else if (name == k_tags)
             appendTexts(record.langToTags, child, k_lang);
         else if (name == k_nature)
-            record.nature = xml::text(child);
+            record.nature = child.text();
         else if (name == k_triggerSentences)
             appendTexts(record.langToTriggerSentences, child, k_lang);
         else if (name == k_loadingResponses)
@@ -54,7 +53,7 @@ void fill(zu::BehaviorInfoPrivate& record, const QDomNode& element)
 
 namespace zu {
 
-bool BehaviorInfoPrivate::loadFromManifest(const QDomNode& element)
+bool BehaviorInfoPrivate::loadFromManifest(zupackage::xml::Node element)
 {
     zupackage::fill(*this, element);
     return true;

@@ -1,6 +1,7 @@
 #include "manifest/manifest_names.hpp"
 #include "records/dialog_info_p.hpp"
-#include "xml/nodes.hpp"
+#include "xml/dom_tree.hpp"
+#include "xml/tree.hpp"
 
 #include <QtXml/QDomElement>
 
@@ -8,14 +9,14 @@ namespace zupackage {
 
 namespace {
 
-void fill(zu::DialogInfoPrivate& record, const QDomNode& element)
+void fill(zu::DialogInfoPrivate& record, xml::Node element)
 {
     using namespace names;
-    record.topicName = xml::attribute(element, k_topicName);
-    record.typeVersion = xml::attribute(element, k_typeVersion);
-    for (const QDomNode& child : xml::children(element))
-        if (xml::name(child) == k_topic)
-            record.topics[xml::attribute(child, k_language)] = xml::attribute(child, k_path);
+    record.topicName = element.attribute(k_topicName);
+    record.typeVersion = element.attribute(k_typeVersion);
+    for (const xml::Node child : element.children())
+        if (child.name() == k_topic)
+            record.topics[child.attribute(k_language)] = child.attribute(k_path);
 }
 
 } // namespace
@@ -24,10 +25,15 @@ void fill(zu::DialogInfoPrivate& record, const QDomNode& element)
 
 namespace zu {
 
+bool DialogInfoPrivate::loadFromManifest(zupackage::xml::Node element)
+{
+    zupackage::fill(*this, element);
+    return true;
+}
+
 bool DialogInfo::loadFromManifest(QDomElement& element)
 {
-    zupackage::fill(*m_p, element);
-    return true;
+    return m_p->loadFromManifest(zupackage::xml::treeOf(element).root());
 }
 
 } // namespace zu

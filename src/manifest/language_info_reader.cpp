@@ -6,19 +6,19 @@ namespace zupackage {
 
 namespace {
 
-void fill(zu::LanguageInfoPrivate& record, const QDomNode& element)
+void fill(zu::LanguageInfoPrivate& record, xml::Node element)
 {
     using namespace names;
-    record.path = xml::attribute(element, k_path);
-    for (const QDomNode& child : xml::children(element)) {
-        const std::string name = xml::name(child);
+    record.path = element.attribute(k_path);
+    for (const xml::Node child : element.children()) {
+        const std::string_view name = child.name();
         if (name == k_names) {
             xml::readTexts(child, k_lang, record.langToName);
         } else if (name == k_engine) {
-            record.engineName = xml::attribute(child, k_name);
-            record.engineVersion = xml::attribute(child, k_version);
+            record.engineName = child.attribute(k_name);
+            record.engineVersion = child.attribute(k_version);
         } else if (name == k_locale) {
-            record.locale = xml::text(child);
+            record.locale = child.text();
         }
     }
 }
@@ -29,7 +29,7 @@ void fill(zu::LanguageInfoPrivate& record, const QDomNode& element)
 
 namespace zu {
 
-bool LanguageInfoPrivate::loadFromManifest(const QDomNode& element)
+bool LanguageInfoPrivate::loadFromManifest(zupackage::xml::Node element)
 {
     zupackage::fill(*this, element);
     return true;

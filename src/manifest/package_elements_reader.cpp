@@ -8,45 +8,44 @@ namespace zupackage {
 
 using namespace names;
 
-void readSections(const QDomNode& root, const std::vector<Section>& sections)
+void readSections(xml::Node root, const std::vector<Section>& sections)
 {
-    for (const QDomNode& child : xml::children(root)) {
+    for (const xml::Node child : root.children()) {
         // A processing instruction may have the name of a section.
         if (!child.isElement())
             continue;
         const auto section = std::find_if(sections.begin(), sections.end(),
-                                          [name = xml::name(child)](const Section& s) { return s.name == name; });
+                                          [name = child.name()](const Section& s) { return s.name == name; });
         if (section != sections.end())
             section->read(child);
     }
 }
 
-void readService(const QDomNode& element, zu::PackageService& service)
+void readService(xml::Node element, zu::PackageService& service)
 {
-    service.execStart = xml::attribute(element, k_execStart);
-    service.name = xml::attribute(element, k_name);
-    service.autoRun = xml::flag(element, k_autorun);
-    for (const QDomNode& child : xml::children(element)) {
-        if (xml::name(child) != k_envVar)
+    service.execStart = element.attribute(k_execStart);
+    service.name = element.attribute(k_name);
+    service.autoRun = element.flag(k_autorun);
+    for (const xml::Node child : element.children()) {
+        if (child.name() != k_envVar)
             continue;
-        const std::string name = xml::attribute(child, k_name);
-        if (!service.envVars.emplace(name, xml::attribute(child, k_value)).second)
+        const std::string name = child.attribute(k_name);
+        if (!service.envVars.emplace(name, child.attribute(k_value)).second)
             zu::log::write(packageInfoCategory(), zu::log::Level::Warning,
                            packageInfoOrigin("zu::_fillPackageService", __LINE__),
                            [&name] { return name + " assignement skipped because it has already been set"; });
     }
 }
 
-zu::RobotRequirement readRobotRequirement(const QDomNode& element)
+zu::RobotRequirement readRobotRequirement(xml::Node element)
 {
-    return {xml::attribute(element, k_model), xml::attribute(element, k_minHeadVersion),
-            xml::attribute(element, k_maxHeadVersion), xml::attribute(element, k_minBodyVersion),
-            xml::attribute(element, k_maxBodyVersion)};
+    return {element.attribute(k_model), element.attribute(k_minHeadVersion), element.attribute(k_maxHeadVersion),
+            element.attribute(k_minBodyVersion), element.attribute(k_maxBodyVersion)};
 }
 
-zu::MorvoRequirement readMorvoRequirement(const QDomNode& element)
+zu::MorvoRequirement readMorvoRequirement(xml::Node element)
 {
-    return {xml::attribute(element, k_minVersion), xml::attribute(element, k_maxVersion)};
+    return {element.attribute(k_minVersion), element.attribute(k_maxVersion)};
 }
 
 } // namespace zupackage

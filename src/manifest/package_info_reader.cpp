@@ -15,29 +15,28 @@ namespace {
 using namespace names;
 
 /// Every child node of the container is a language.
-void readLanguages(const QDomNode& container, OnceAppender& languages)
+void readLanguages(xml::Node container, OnceAppender& languages)
 {
-    for (const QDomNode& child : xml::children(container))
-        languages.append(xml::text(child));
+    for (const xml::Node child : container.children())
+        languages.append(child.text());
 }
 
 /// Adds what a document says to a package's record.
-void fill(zu::PackageInfoPrivate& record, const QDomNode& root)
+void fill(zu::PackageInfoPrivate& record, xml::Node root)
 {
     OnceAppender supported(record.supportedLanguages);
     OnceAppender description(record.descriptionLanguages);
     readRootAttributes(root, record);
-    using Element = const QDomNode&;
-    readSections(
-        root,
-        {{k_names, [&](Element e) { xml::readTexts(e, k_lang, record.langToName); }},
-         {k_descriptions, [&](Element e) { xml::readTexts(e, k_lang, record.langToDesc); }},
-         {k_services, [&](Element e) { readServices(e, record.services); }},
-         {k_executableFiles, [&](Element e) { readExecutableFiles(e, record.executableFiles); }},
-         {k_requirements, [&](Element e) { readRequirements(e, record.robotRequirements, record.morvoRequirements); }},
-         {k_supportedLanguages, [&](Element e) { readLanguages(e, supported); }},
-         {k_descriptionLanguages, [&](Element e) { readLanguages(e, description); }},
-         {k_contents, [&](Element e) { readContents(e, record.behaviors, record.dialogs, record.languages); }}});
+    readSections(root, {{k_names, [&](xml::Node e) { xml::readTexts(e, k_lang, record.langToName); }},
+                        {k_descriptions, [&](xml::Node e) { xml::readTexts(e, k_lang, record.langToDesc); }},
+                        {k_services, [&](xml::Node e) { readServices(e, record.services); }},
+                        {k_executableFiles, [&](xml::Node e) { readExecutableFiles(e, record.executableFiles); }},
+                        {k_requirements,
+                         [&](xml::Node e) { readRequirements(e, record.robotRequirements, record.morvoRequirements); }},
+                        {k_supportedLanguages, [&](xml::Node e) { readLanguages(e, supported); }},
+                        {k_descriptionLanguages, [&](xml::Node e) { readLanguages(e, description); }},
+                        {k_contents,
+                         [&](xml::Node e) { readContents(e, record.behaviors, record.dialogs, record.languages); }}});
 }
 
 /// @param source what was parsed, as the record names it.
@@ -58,7 +57,7 @@ bool fillOrLog(zu::PackageInfoPrivate& record, const xml::ParseResult& result, c
         logSyntaxError(source, *failure, origin);
         return false;
     }
-    fill(record, std::get<QDomDocument>(result).documentElement());
+    fill(record, std::get<xml::Tree>(result).root());
     return true;
 }
 

@@ -4,14 +4,16 @@
 
 #include <zupackage/behavior_info.hpp>
 
-class QDomNode;
+namespace zupackage::xml {
+class Node;
+}
 
 namespace zu {
 
 struct BehaviorInfoPrivate
 {
     /// Reads a "behaviorContent" element; the record is a fresh one. True, always.
-    bool loadFromManifest(const QDomNode& element);
+    bool loadFromManifest(zupackage::xml::Node element);
 
     std::string path;
     std::string nature;

@@ -4,10 +4,17 @@
 
 #include <zupackage/dialog_info.hpp>
 
+namespace zupackage::xml {
+class Node;
+}
+
 namespace zu {
 
 struct DialogInfoPrivate
 {
+    /// Reads a "dialogContent" element, see DialogInfo. True, always.
+    bool loadFromManifest(zupackage::xml::Node element);
+
     std::string topicName;
     std::string typeVersion;
     std::map<std::string, std::string> topics;

@@ -6,14 +6,16 @@
 
 #include <map>
 
-class QDomNode;
+namespace zupackage::xml {
+class Node;
+}
 
 namespace zu {
 
 struct LanguageInfoPrivate
 {
     /// Reads a "languageContent" element; the record is a fresh one. True, always.
-    bool loadFromManifest(const QDomNode& element);
+    bool loadFromManifest(zupackage::xml::Node element);
 
     std::string path;
     std::string engineName;

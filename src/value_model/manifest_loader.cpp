@@ -18,39 +18,39 @@ namespace {
 
 using namespace names;
 
-keys::Texts textsByLanguage(const QDomNode& element)
+keys::Texts textsByLanguage(xml::Node element)
 {
     keys::Texts texts;
     xml::readTexts(element, k_lang, texts);
     return texts;
 }
 
-std::vector<zu::PackageService> services(const QDomNode& element)
+std::vector<zu::PackageService> services(xml::Node element)
 {
     std::vector<zu::PackageService> services;
     readServices(element, services);
     return services;
 }
 
-std::vector<std::string> executableFiles(const QDomNode& element)
+std::vector<std::string> executableFiles(xml::Node element)
 {
     std::vector<std::string> paths;
     readExecutableFiles(element, paths);
     return paths;
 }
 
-keys::Requirements requirements(const QDomNode& element)
+keys::Requirements requirements(xml::Node element)
 {
     keys::Requirements requirements;
     readRequirements(element, requirements.first, requirements.second);
     return requirements;
 }
 
-std::vector<std::string> supportedLanguages(const QDomNode& element)
+std::vector<std::string> supportedLanguages(xml::Node element)
 {
     std::vector<std::string> languages;
-    for (const QDomNode& child : xml::children(element))
-        languages.push_back(xml::text(child));
+    for (const xml::Node child : element.children())
+        languages.push_back(child.text());
     return languages;
 }
 
@@ -67,7 +67,7 @@ void storeUnlessEmpty(const std::list<Record>& records, keys::Key<std::vector<Re
         store(std::vector<Record>(records.begin(), records.end()), key, contents);
 }
 
-keys::Values contents(const QDomNode& element)
+keys::Values contents(xml::Node element)
 {
     // Lists first: a growing vector would copy the records again and again.
     std::list<zu::BehaviorInfo> behaviors;
@@ -78,20 +78,20 @@ keys::Values contents(const QDomNode& element)
     storeUnlessEmpty(behaviors, keys::k_behaviors, contents);
     storeUnlessEmpty(dialogs, keys::k_dialogs, contents);
     storeUnlessEmpty(languages, keys::k_languages, contents);
-    for (const QDomNode& child : xml::children(element))
-        if (xml::name(child) == k_webContent)
-            store(zu::WebInfo{xml::attribute(child, k_path)}, keys::k_web, contents);
+    for (const xml::Node child : element.children())
+        if (child.name() == k_webContent)
+            store(zu::WebInfo{child.attribute(k_path)}, keys::k_web, contents);
     return contents;
 }
 
 /// The section of that name, which stores what `read` gives.
 template <class T>
-Section section(std::string_view name, T (*read)(const QDomNode& element), keys::Key<T> key, keys::Values& elements)
+Section section(std::string_view name, T (*read)(xml::Node element), keys::Key<T> key, keys::Values& elements)
 {
-    return {name, [read, key, &elements](const QDomNode& element) { store(read(element), key, elements); }};
+    return {name, [read, key, &elements](xml::Node element) { store(read(element), key, elements); }};
 }
 
-zu::PackageInfo2 packageFrom(const QDomNode& root)
+zu::PackageInfo2 packageFrom(xml::Node root)
 {
     zu::PackageInfo2 package;
     readRootAttributes(root, package);
@@ -124,7 +124,7 @@ zu::PackageInfo2 load(const std::string& path)
         fail("Syntax error in " + path + ":" + std::to_string(failure->line) + ":" + std::to_string(failure->column) +
                  ": " + failure->message,
              __LINE__);
-    return packageFrom(std::get<QDomDocument>(result).documentElement());
+    return packageFrom(std::get<xml::Tree>(result).root());
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtXml/QDomDocument>
+#include "xml/tree.hpp"
 
 #include <string>
 #include <variant>
@@ -17,12 +17,13 @@ struct ParseFailure
     std::string message; ///< the parser's own words, or the limit that the document exceeds
 };
 
-using ParseResult = std::variant<QDomDocument, ParseFailure>;
+using ParseResult = std::variant<Tree, ParseFailure>;
 
-/// Parses UTF-8 text, with namespace processing.
+/// Parses UTF-8 text, as QDomDocument::setContent does with namespace processing.
 ParseResult parse(const std::string& content);
 
-/// Parses what the open device holds, in the encoding that the document says itself, without namespace processing.
+/// Parses what the open device holds, in the encoding that the document says itself, as QDomDocument::setContent does
+/// without namespace processing.
 ParseResult parse(QIODevice& device);
 
 } // namespace zupackage::xml
