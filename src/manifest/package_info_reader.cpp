@@ -1,9 +1,9 @@
+#include "manifest/manifest_document.hpp"
 #include "manifest/manifest_names.hpp"
 #include "manifest/package_elements_reader.hpp"
 #include "manifest/package_log.hpp"
 #include "records/append_once.hpp"
 #include "records/package_info_p.hpp"
-#include "xml/document.hpp"
 #include "xml/nodes.hpp"
 
 #include <QtCore/QFile>
@@ -39,26 +39,29 @@ void fill(zu::PackageInfoPrivate& record, xml::Node root)
                          [&](xml::Node e) { readContents(e, record.behaviors, record.dialogs, record.languages); }}});
 }
 
-/// @param source what was parsed, as the record names it.
-void logSyntaxError(const std::string& source, const xml::ParseFailure& failure, const zu::log::Origin& origin)
+std::string openFailure(const std::string& source) { return "Could not open " + source + " for reading"; }
+
+std::string syntaxError(const std::string& source, const xml::ParseFailure& failure)
 {
-    zu::log::write(k_packageCategory, zu::log::Level::Error, origin, [&] {
-        return "Syntax error in " + source + " at line " + std::to_string(failure.line) + ", column " +
-               std::to_string(failure.column) + ": " + failure.message;
-    });
+    return "Syntax error in " + source + " at line " + std::to_string(failure.line) + ", column " +
+           std::to_string(failure.column) + ": " + failure.message;
 }
 
-/// Adds what was parsed to the record.
-/// @return false, with a log record and the record as it was, when it could not be parsed.
-bool fillOrLog(zu::PackageInfoPrivate& record, const xml::ParseResult& result, const std::string& source,
-               const zu::log::Origin& origin)
+/// One log record.
+FailurePolicy logged(const zu::log::Origin& origin)
 {
-    if (const auto* failure = std::get_if<xml::ParseFailure>(&result)) {
-        logSyntaxError(source, *failure, origin);
-        return false;
-    }
-    fill(record, std::get<xml::Tree>(result).root());
-    return true;
+    return {&openFailure, &syntaxError, [origin](const std::string& message) {
+                zu::log::write(k_packageCategory, zu::log::Level::Error, origin, message);
+            }};
+}
+
+/// Adds what the document says to the record.
+/// @return false, and nothing changes, when there is none.
+bool fillFrom(const std::optional<xml::Tree>& document, zu::PackageInfoPrivate& record)
+{
+    if (document)
+        fill(record, document->root());
+    return document.has_value();
 }
 
 } // namespace
@@ -69,22 +72,16 @@ namespace zu {
 
 bool PackageInfo::loadFromManifestContent(const std::string& content)
 {
-    return zupackage::fillOrLog(*m_p, zupackage::xml::parse(content), content,
-                                zupackage::packageInfoOrigin("zu::PackageInfo::loadFromManifestContent", __LINE__));
+    const auto origin = zupackage::packageInfoOrigin("zu::PackageInfo::loadFromManifestContent", __LINE__);
+    return zupackage::fillFrom(
+        zupackage::documentFrom(zupackage::xml::parse(content), content, zupackage::logged(origin)), *m_p);
 }
 
 bool PackageInfo::loadFromManifestFile(QFile& file)
 {
-    static constexpr char k_function[] = "zu::PackageInfo::loadFromManifestFile";
+    const auto origin = zupackage::packageInfoOrigin("zu::PackageInfo::loadFromManifestFile", __LINE__);
     const std::string name = zupackage::xml::toUtf8(file.fileName());
-    if (!file.open(QIODevice::ReadOnly)) {
-        log::write(zupackage::k_packageCategory, log::Level::Error, zupackage::packageInfoOrigin(k_function, __LINE__),
-                   [&name] { return "Could not open " + name + " for reading"; });
-        return false;
-    }
-    const zupackage::xml::ParseResult result = zupackage::xml::parse(file);
-    file.close();
-    return zupackage::fillOrLog(*m_p, result, name, zupackage::packageInfoOrigin(k_function, __LINE__));
+    return zupackage::fillFrom(zupackage::documentIn(file, name, zupackage::logged(origin)), *m_p);
 }
 
 bool PackageInfo::loadFromManifestFile(const std::string& path)

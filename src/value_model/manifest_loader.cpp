@@ -1,8 +1,8 @@
+#include "manifest/manifest_document.hpp"
 #include "manifest/manifest_names.hpp"
 #include "manifest/package_elements_reader.hpp"
 #include "manifest/package_log.hpp"
 #include "value_model/package_info2_keys.hpp"
-#include "xml/document.hpp"
 #include "xml/nodes.hpp"
 
 #include <zupackage/package_info2.hpp>
@@ -61,23 +61,34 @@ void store(T value, keys::Key<T> key, keys::Values& values)
 }
 
 template <class Record>
-void storeUnlessEmpty(const std::list<Record>& records, keys::Key<std::vector<Record>> key, keys::Values& contents)
+void storeUnlessEmpty(std::vector<Record> records, keys::Key<std::vector<Record>> key, keys::Values& contents)
 {
     if (!records.empty())
-        store(std::vector<Record>(records.begin(), records.end()), key, contents);
+        store(std::move(records), key, contents);
+}
+
+/// Empty, with room for an element for each child of that name: growing, a vector would copy the records.
+template <class Record>
+std::vector<Record> roomFor(std::string_view name, xml::Node container)
+{
+    std::size_t count = 0;
+    for (const xml::Node child : container.children())
+        count += child.name() == name ? 1u : 0u;
+    std::vector<Record> records;
+    records.reserve(count);
+    return records;
 }
 
 keys::Values contents(xml::Node element)
 {
-    // Lists first: a growing vector would copy the records again and again.
-    std::list<zu::BehaviorInfo> behaviors;
-    std::list<zu::DialogInfo> dialogs;
-    std::list<zu::LanguageInfo> languages;
+    auto behaviors = roomFor<zu::BehaviorInfo>(k_behaviorContent, element);
+    auto dialogs = roomFor<zu::DialogInfo>(k_dialogContent, element);
+    auto languages = roomFor<zu::LanguageInfo>(k_languageContent, element);
     readContents(element, behaviors, dialogs, languages);
     keys::Values contents;
-    storeUnlessEmpty(behaviors, keys::k_behaviors, contents);
-    storeUnlessEmpty(dialogs, keys::k_dialogs, contents);
-    storeUnlessEmpty(languages, keys::k_languages, contents);
+    storeUnlessEmpty(std::move(behaviors), keys::k_behaviors, contents);
+    storeUnlessEmpty(std::move(dialogs), keys::k_dialogs, contents);
+    storeUnlessEmpty(std::move(languages), keys::k_languages, contents);
     for (const xml::Node child : element.children())
         if (child.name() == k_webContent)
             store(zu::WebInfo{child.attribute(k_path)}, keys::k_web, contents);
@@ -106,25 +117,19 @@ zu::PackageInfo2 packageFrom(xml::Node root)
     return package;
 }
 
-[[noreturn]] void fail(const std::string& message, int line)
+std::string openFailure(const std::string& source) { return "Could not open " + source + " for reading."; }
+
+std::string syntaxError(const std::string& source, const xml::ParseFailure& failure)
 {
-    zu::log::write(packageInfoCategory(), zu::log::Level::Error, packageInfoOrigin("zu::loadManifest", line), message);
-    throw std::runtime_error(message);
+    return "Syntax error in " + source + ":" + std::to_string(failure.line) + ":" + std::to_string(failure.column) +
+           ": " + failure.message;
 }
 
-/// Opens, parses and reads the file of that name.
-zu::PackageInfo2 load(const std::string& path)
+[[noreturn]] void logAndThrow(const std::string& message)
 {
-    QFile file(xml::fromUtf8(path));
-    if (!file.open(QIODevice::ReadOnly))
-        fail("Could not open " + path + " for reading.", __LINE__);
-    const xml::ParseResult result = xml::parse(file);
-    file.close();
-    if (const auto* failure = std::get_if<xml::ParseFailure>(&result))
-        fail("Syntax error in " + path + ":" + std::to_string(failure->line) + ":" + std::to_string(failure->column) +
-                 ": " + failure->message,
-             __LINE__);
-    return packageFrom(std::get<xml::Tree>(result).root());
+    zu::log::write(packageInfoCategory(), zu::log::Level::Error, packageInfoOrigin("zu::loadManifest", __LINE__),
+                   message);
+    throw std::runtime_error(message);
 }
 
 } // namespace
@@ -133,6 +138,11 @@ zu::PackageInfo2 load(const std::string& path)
 
 namespace zu {
 
-PackageInfo2 loadManifest(const std::string& path) { return zupackage::load(path); }
+PackageInfo2 loadManifest(const std::string& path)
+{
+    QFile file(zupackage::xml::fromUtf8(path));
+    const zupackage::FailurePolicy thrown{&zupackage::openFailure, &zupackage::syntaxError, &zupackage::logAndThrow};
+    return zupackage::packageFrom(zupackage::documentIn(file, path, thrown)->root());
+}
 
 } // namespace zu

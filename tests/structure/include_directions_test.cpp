@@ -51,7 +51,7 @@ const std::vector<Rule> k_rules = {
     {"src/types/", {"src/", k_package, k_framework, "std/"}},
 
     {"cli/", {"cli/", k_package, "QtCore/", "CLI/", "std/"}},
-    {"bench/", {"bench/", k_package, k_framework, "QtCore/", "benchmark/", "boost/", "nlohmann/", "std/"}},
+    {"bench/", {"bench/", k_package, k_framework, "QtCore/", "QtXml/", "benchmark/", "boost/", "nlohmann/", "std/"}},
     {"examples/api/", {k_package, k_framework, "std/"}},
     {"tests/consumer/", {k_package, k_framework, "std/"}},
     {"tests/loading/", {"tests/", k_package, k_framework, "gmock/", "gtest/", "std/"}},
