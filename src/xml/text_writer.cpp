@@ -15,14 +15,14 @@ void TextWriter::startElement(std::string_view name)
     if (m_position == Position::InStartTag)
         m_document += ">\n";
     indent();
-    m_document.append(1, '<').append(name);
+    (m_document += '<') += name;
     m_elements.push_back(name);
     m_position = Position::InStartTag;
 }
 
 void TextWriter::attribute(std::string_view name, std::string_view value)
 {
-    m_document.append(1, ' ').append(name).append("=\"");
+    ((m_document += ' ') += name) += "=\"";
     appendEscaped(m_document, value, Place::AttributeValue);
     m_document += '"';
 }
@@ -51,7 +51,7 @@ void TextWriter::endElement()
     } else {
         if (m_position == Position::BetweenElements)
             indent();
-        m_document.append("</").append(name).append(">\n");
+        ((m_document += "</") += name) += ">\n";
     }
     m_position = Position::BetweenElements;
 }
