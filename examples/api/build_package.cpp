@@ -3,6 +3,7 @@
 #include <zupackage/package_info.hpp>
 
 #include <iostream>
+#include <stdexcept>
 
 namespace {
 
@@ -34,8 +35,12 @@ int main(int argc, char** argv)
     package.addBehavior(greeting());
     package.addMorvoRequirement({"3.0", ""});
 
-    if (argc != 2 || !package.saveToManifestFile(argv[1])) {
-        std::cerr << "cannot write the manifest\n";
+    if (argc != 2)
+        return 2;
+    try {
+        zu::saveManifest(package, argv[1]);
+    } catch (const std::runtime_error& error) {
+        std::cerr << error.what() << '\n';
         return 1;
     }
     return 0;

@@ -259,7 +259,7 @@ public:
     /// Writes the document to a file that is not open, as UTF-8 whatever the locale, indented by two spaces a level; a
     /// present file is replaced, and the file is closed again.
     /// @return false, without a log record, when the file cannot be opened. What goes wrong after that (a full disk) is
-    /// not noticed: the result is true.
+    /// not noticed: the result is true. saveManifest() notices, and keeps the old file.
     bool saveToManifestFile(QFile& file) const;
     /// The same for the file of that name, in UTF-8.
     bool saveToManifestFile(const std::string& path) const;
@@ -274,6 +274,17 @@ private:
     friend struct PrivateRecord;
     const std::unique_ptr<PackageInfoPrivate> m_p;
 };
+
+/// Replaces the manifest file of that name, in UTF-8, as a whole: with what PackageInfo::saveToManifestFile() writes, or
+/// not at all. The new content stands in a file beside the old one until it is complete and on the disk, and takes its
+/// place then; when the process ends before that, the old file is as it was, and the new one may be left beside it. The
+/// file keeps its permissions and, where the process may set it, its owner; one that was not there has what new files
+/// have. Of a symbolic link the file it leads to is replaced, or made when there is none. Nothing is logged. May run on
+/// several threads at once.
+///
+/// Throws std::runtime_error "Could not write PATH: REASON", and the old file is as it was, when there is no space, when
+/// the folder or the file may not be written, and when what has the name is no regular file: a device, a pipe, a folder.
+ZUPACKAGE_EXPORT void saveManifest(const PackageInfo& package, const std::string& path);
 
 /// Prints the package for people, an item a line, flushed line by line. Flags print as 1 or 0,
 /// whatever the format of the stream. Installer, services, executable files and description languages are not

@@ -1,3 +1,5 @@
+#include "manifest/package_info_writer.hpp"
+
 #include "manifest/elements_writer.hpp"
 #include "manifest/manifest_names.hpp"
 #include "manifest/root_attributes.hpp"
@@ -126,12 +128,12 @@ std::string textOf(const zu::PackageInfoPrivate& package)
     return documentOf(package, xml::TextWriter("<?xml version='1.0' encoding='UTF-8'?>", 1));
 }
 
-std::string fileContentOf(const zu::PackageInfoPrivate& package)
+} // namespace
+
+std::string manifestFileOf(const zu::PackageInfoPrivate& package)
 {
     return documentOf(package, xml::TextWriter(R"(<?xml version="1.0" encoding="UTF-8"?>)", 2));
 }
-
-} // namespace
 
 } // namespace zupackage
 
@@ -142,7 +144,7 @@ std::string PackageInfo::saveToManifestContent() { return zupackage::textOf(*m_p
 
 bool PackageInfo::saveToManifestFile(QFile& file) const
 {
-    const std::string content = zupackage::fileContentOf(*m_p);
+    const std::string content = zupackage::manifestFileOf(*m_p);
     if (!file.open(QIODevice::WriteOnly))
         return false;
     file.write(content.data(), static_cast<qint64>(content.size()));

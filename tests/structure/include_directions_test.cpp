@@ -56,7 +56,8 @@ const std::vector<Rule> k_rules = {
     {"tests/consumer/", {k_package, k_framework, "std/"}},
     {"tests/loading/", {"tests/", k_package, k_framework, "gmock/", "gtest/", "std/"}},
     {"tests/cli/", {"tests/", "QtCore/", "gmock/", "gtest/", "std/"}},
-    {"tests/", {"tests/", "src/", k_package, k_framework, "QtCore/", "QtXml/", "boost/", "gmock/", "gtest/", "std/"}},
+    {"tests/",
+     {"tests/", "src/", k_package, k_framework, "QtCore/", "QtXml/", "boost/", "gmock/", "gtest/", "sys/", "std/"}},
 };
 
 /// What a file includes and must not.

@@ -1,0 +1,99 @@
+#include "manifest/package_info_writer.hpp"
+#include "records/private_record.hpp"
+#include "xml/nodes.hpp"
+
+#include <zupackage/package_info.hpp>
+
+#include <QtCore/QFileInfo>
+#include <QtCore/QSaveFile>
+
+#include <filesystem>
+#include <stdexcept>
+#include <system_error>
+#include <unistd.h>
+
+namespace zupackage {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void fail(const QString& reason) { throw std::runtime_error(reason.toStdString()); }
+[[noreturn]] void fail(std::errc reason) { throw std::runtime_error(std::make_error_code(reason).message()); }
+
+/// What a chain of symbolic links leads to, which need not exist.
+fs::path linkTarget(fs::path path)
+{
+    constexpr int k_mostLinks = 40; // as Linux has it
+    std::error_code none;
+    for (int links = 0; fs::is_symlink(path, none); ++links) {
+        if (links == k_mostLinks)
+            fail(std::errc::too_many_symbolic_link_levels);
+        path = path.parent_path() / fs::read_symlink(path);
+    }
+    return path;
+}
+
+/// Where a file is to be written, as Qt names it. QSaveFile itself follows one link, and a relative one by the look of its
+/// path, not through linked folders.
+QString fileBehind(const QString& path)
+{
+    return QFile::decodeName(linkTarget(QFile::encodeName(path).toStdString()).c_str());
+}
+
+void keepOwner(QSaveFile& file, const QFileInfo& present)
+{
+    const bool isKept = fchown(file.handle(), present.ownerId(), present.groupId()) == 0 ||
+                        fchown(file.handle(), static_cast<uid_t>(-1), present.groupId()) == 0;
+    static_cast<void>(isKept); // where that is not allowed, the file is the writer's
+}
+
+void write(QSaveFile& file, const std::string& content)
+{
+    const auto size = static_cast<qint64>(content.size());
+    for (qint64 written = 0; written < size;) {
+        const qint64 part = file.write(content.data() + written, size - written);
+        if (part <= 0)
+            fail(file.errorString());
+        written += part;
+    }
+}
+
+void replaceFile(const QString& path, const std::string& content)
+{
+    // Qt would take the working folder for the file's, and the name for what stands before the zero.
+    if (path.isEmpty())
+        fail(std::errc::no_such_file_or_directory);
+    if (path.contains(QChar(0)))
+        fail(std::errc::invalid_argument);
+    const QFileInfo present(fileBehind(path));
+    // A device or a pipe would be replaced by a file, and what reads it would not see anything.
+    if (present.exists() && !present.isFile())
+        fail(QStringLiteral("Not a regular file"));
+    QSaveFile file(present.filePath());
+    // Without a buffer, because what does not fit is written in part, and only writing the rest gives the reason.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        fail(file.errorString());
+    if (present.exists())
+        keepOwner(file, present);
+    write(file, content);
+    if (!file.commit())
+        fail(file.errorString());
+}
+
+} // namespace
+
+} // namespace zupackage
+
+namespace zu {
+
+void saveManifest(const PackageInfo& package, const std::string& path)
+{
+    try {
+        zupackage::replaceFile(zupackage::xml::fromUtf8(path), zupackage::manifestFileOf(PrivateRecord::of(package)));
+    } catch (const std::runtime_error& error) {
+        throw std::runtime_error("Could not write " + std::string(path.c_str()) + ": " + error.what());
+    }
+}
+
+} // namespace zu
