@@ -223,11 +223,11 @@ public:
     /// and list entries are appended. installer() and path() are never touched. The root may have any name; unknown
     /// elements and attributes are ignored.
     ///
-    /// Refused are documents that are not well-formed, and documents of a size that only an attack has: over 64 MiB,
-    /// over 4 Mi nodes, over 256 levels of elements (or of groups in a content model), over 256 namespace declarations,
-    /// over 1,024 attributes in an element, over 1,024 declarations of entities and notations, entities that expand to
-    /// over 8 MiB; and documents within these limits that combine them so that the parser would compare names for
-    /// minutes.
+    /// Refused are documents that are not well-formed, and documents that only an attack has: of over 64 MiB, of over 256
+    /// levels of elements (or of groups in a content model), with entities that expand to over 8 MiB; and documents out of
+    /// proportion to their size, whose names the parser would compare for longer than it reads them, or whose nodes and
+    /// attributes would take over 128 MiB and 16 bytes (behind a document type 24) for each of theirs. Whatever is read
+    /// can also be printed, written, encoded, copied and destroyed on a thread with a stack of 512 KiB.
     ///
     /// @return false when the document cannot be opened or is refused. An error with the reason is then written to the
     /// log category "zupackage", and the object is as it was.

@@ -56,18 +56,23 @@ ParseResult parsedByQt(SetContent setContent)
 template <class Source, class Content, class SetContent>
 ParseResult parsed(const Content& content, Namespaces namespaces, SetContent setContent)
 {
+    const auto size = static_cast<qint64>(content.size());
     if (QDomImplementation::invalidDataPolicy() == QDomImplementation::AcceptInvalidChars) {
-        TreeBuilder builder(namespaces);
-        builder.tree().reserve(static_cast<std::size_t>(content.size()));
+        TreeBuilder builder(namespaces, size);
         if (run(builder, Source(builder, content), false))
             return std::move(builder.tree());
         if (!builder.isOutOfTheOrdinary())
             return builder.failure().value_or(ParseFailure{});
     }
-    Guard guard;
+    Guard guard(namespaces == Namespaces::Processed ? Model::DomWithNamespaces : Model::Dom, size);
     if (!run(guard, Source(guard, content), true) && guard.isExceeded())
         return *guard.failure();
     return parsedByQt(setContent);
+}
+
+ParseFailure tooLarge()
+{
+    return {1, 1, "the document is larger than " + std::to_string(limits::k_documentMiB) + " MiB"};
 }
 
 /// In pieces: a pipe gives no more at once than it has.

@@ -7,6 +7,21 @@ QT_WARNING_DISABLE_DEPRECATED
 
 namespace zupackage::xml {
 
+namespace {
+
+bool isNamespaceDeclaration(const QString& name)
+{
+    return name.startsWith(QLatin1String("xmlns")) && (name.size() == 5 || name.at(5) == QLatin1Char(':'));
+}
+
+} // namespace
+
+Guard::Guard(Model model, qint64 documentBytes)
+    : m_model(model), m_allowedSteps(cost::allowedSteps(documentBytes)),
+      m_allowedMemory(cost::allowedMemory(documentBytes, model != Model::Tree))
+{
+}
+
 bool Guard::startDTD(const QString& /*name*/, const QString& /*publicId*/, const QString& /*systemId*/)
 {
     m_inDocumentType = true;
@@ -24,83 +39,141 @@ bool Guard::endDTD()
 
 bool Guard::internalEntityDecl(const QString& name, const QString& value)
 {
-    const qint64 bytes = value.toUtf8().size();
     const bool isParameter = name.startsWith(QLatin1Char('%'));
     // A parameter entity and a general one never share a name.
-    m_entityBytes[isParameter ? name.mid(1) : name] = bytes;
+    m_entitySizes[isParameter ? name.mid(1) : name] = value.toUtf8().size();
+    m_entities.add(name.size());
     // The text of a parameter entity can become a declaration, or the beginning of one.
     if (isParameter && value.contains(QLatin1String("<!ELEMENT")))
         m_groups.countEverywhere();
-    const bool groupsFit = !isParameter || deepestGroup(value) <= limits::k_levels;
-    return addDeclaration() && (groupsFit || refuseGroups()) &&
-           addSteps(bytes * (value.count(QLatin1Char('&')) + static_cast<qint64>(m_entityBytes.size())));
+    if (isParameter && deepestGroup(value) > limits::k_levels)
+        return refuseGroups();
+    return addMemory(cost::k_domDeclaration) &&
+           addSteps(cost::declaringEntity(m_entities, value.size(), value.count(QLatin1Char('&'))));
 }
 
 bool Guard::externalEntityDecl(const QString& /*name*/, const QString& /*publicId*/, const QString& /*systemId*/)
 {
-    return addDeclaration();
+    return addMemory(cost::k_domDeclaration);
 }
 
 bool Guard::unparsedEntityDecl(const QString& /*name*/, const QString& /*publicId*/, const QString& /*systemId*/,
                                const QString& /*notation*/)
 {
-    return addDeclaration();
+    return addMemory(cost::k_domDeclaration);
 }
 
 bool Guard::notationDecl(const QString& /*name*/, const QString& /*publicId*/, const QString& /*systemId*/)
 {
-    return addDeclaration();
+    return addMemory(cost::k_domDeclaration);
 }
 
 bool Guard::startEntity(const QString& name)
 {
-    m_expandedBytes += m_entityBytes[name];
-    return m_expandedBytes <= limits::k_expandedEntitiesMiB * limits::k_bytesPerMiB ||
-           refuse("entities expand to more than " + std::to_string(limits::k_expandedEntitiesMiB) + " MiB");
+    m_expandedBytes += m_entitySizes[name];
+    if (m_expandedBytes > limits::k_expandedEntitiesMiB * limits::k_bytesPerMiB)
+        return refuse("entities expand to more than " + std::to_string(limits::k_expandedEntitiesMiB) + " MiB");
+    return addSteps(cost::expandingEntity(name.size()));
 }
 
-bool Guard::startElement(const QString& /*uri*/, const QString& /*localName*/, const QString& /*name*/,
+bool Guard::startElement(const QString& /*uri*/, const QString& /*localName*/, const QString& name,
                          const QXmlAttributes& attributes)
 {
-    const qint64 inScope = (m_prefixes.empty() ? 0 : m_prefixes.back()) + countNamespaceDeclarations(attributes);
-    m_prefixes.push_back(inScope);
-    if (m_prefixes.size() > limits::k_levels)
+    m_isInText = false;
+    if (++m_levels > limits::k_levels)
         return refuse("elements nested deeper than " + std::to_string(limits::k_levels) + " levels");
-    if (m_namespaceDeclarations > limits::k_namespaceDeclarations)
-        return refuse("more than " + std::to_string(limits::k_namespaceDeclarations) + " namespace declarations");
-    const qint64 count = attributes.length();
-    if (count > limits::k_attributes)
-        return refuse("more than " + std::to_string(limits::k_attributes) + " attributes in an element");
-    return addNodes(1 + count) && addSteps(count * count + inScope * inScope);
+    return m_model == Model::Tree ? startTreeElement(attributes) : startDomElement(name, attributes);
+}
+
+bool Guard::startTreeElement(const QXmlAttributes& attributes)
+{
+    return addMemory(cost::k_treeNode + cost::k_treeAttribute * attributes.length());
+}
+
+bool Guard::startDomElement(const QString& name, const QXmlAttributes& attributes)
+{
+    cost::Names names;
+    qint64 values = 0;
+    for (int i = 0; i < attributes.length(); ++i) {
+        names.add(attributes.qName(i).size());
+        values += attributes.value(i).size();
+    }
+    return addMemory(cost::domElement(name.size()) + cost::domAttributes(names) + cost::domText(values)) &&
+           addSteps(cost::numberingAttributes(names.count)) &&
+           (m_model != Model::DomWithNamespaces ||
+            (addSteps(cost::comparingEachOther(names)) && addNamespaces(attributes)));
+}
+
+bool Guard::addNamespaces(const QXmlAttributes& attributes)
+{
+    const cost::Names outer = m_namespaces.empty() ? cost::Names{} : m_namespaces.back();
+    cost::Names inScope = outer;
+    qint64 steps = 0;
+    for (int i = 0; i < attributes.length(); ++i) {
+        const QString name = attributes.qName(i);
+        if (isNamespaceDeclaration(name))
+            inScope.add(name.size());
+        else
+            steps += cost::findingNamespace(inScope, name.size());
+    }
+    m_namespaces.push_back(inScope);
+    if (inScope.count > outer.count)
+        steps += cost::copyingNamespaces(inScope);
+    // Of a tag in an entity the last character is not known.
+    const bool isEmptyTag = m_last != QLatin1Char('>');
+    return addSteps(steps + cost::endingNamespaces(inScope, isEmptyTag));
 }
 
 bool Guard::endElement(const QString& /*uri*/, const QString& /*localName*/, const QString& /*name*/)
 {
-    m_prefixes.pop_back();
+    m_isInText = false;
+    --m_levels;
+    if (!m_namespaces.empty())
+        m_namespaces.pop_back();
     return true;
 }
 
-bool Guard::characters(const QString& /*text*/) { return addNodes(1); }
+bool Guard::characters(const QString& text)
+{
+    // With entities reported, a text comes in pieces.
+    if (m_isInText)
+        return m_model == Model::Tree || addMemory(cost::domText(text.size()));
+    m_isInText = true;
+    return addNode(text);
+}
+
+bool Guard::startCDATA()
+{
+    m_isInText = false;
+    return true;
+}
 
 bool Guard::endCDATA()
 {
+    m_isInText = false;
     m_tag.endOther(m_last);
     return true;
 }
 
-bool Guard::comment(const QString& /*text*/)
+bool Guard::comment(const QString& text)
 {
+    m_isInText = false;
     m_tag.endOther(m_last);
-    return addNodes(1);
+    return addNode(text);
 }
 
-bool Guard::processingInstruction(const QString& /*target*/, const QString& /*data*/)
+bool Guard::processingInstruction(const QString& /*target*/, const QString& data)
 {
+    m_isInText = false;
     m_tag.endOther(m_last);
-    return addNodes(1);
+    return addNode(data);
 }
 
-bool Guard::skippedEntity(const QString& /*name*/) { return addNodes(1); }
+bool Guard::skippedEntity(const QString& name)
+{
+    m_isInText = false;
+    return addNode(name);
+}
 
 bool Guard::fatalError(const QXmlParseException& exception)
 {
@@ -110,34 +183,22 @@ bool Guard::fatalError(const QXmlParseException& exception)
     return false;
 }
 
-qint64 Guard::countNamespaceDeclarations(const QXmlAttributes& attributes)
+bool Guard::addNode(const QString& text)
 {
-    qint64 count = 0;
-    for (int i = 0; i < attributes.length(); ++i) {
-        const QString name = attributes.qName(i);
-        count += name == QLatin1String("xmlns") || name.startsWith(QLatin1String("xmlns:")) ? 1 : 0;
-    }
-    m_namespaceDeclarations += count;
-    return count;
+    return addMemory(m_model == Model::Tree ? cost::k_treeNode : cost::k_domNode + cost::domText(text.size()));
 }
 
-bool Guard::addDeclaration()
+bool Guard::addSteps(qint64 steps)
 {
-    return ++m_declarations <= limits::k_declarations ||
-           refuse("more than " + std::to_string(limits::k_declarations) + " declarations of entities and notations");
+    m_steps += steps;
+    return m_steps <= m_allowedSteps ||
+           refuse("more than " + std::to_string(m_allowedSteps) + " steps of comparing names and expanding entities");
 }
 
-bool Guard::addNodes(qint64 count)
+bool Guard::addMemory(qint64 bytes)
 {
-    m_nodes += count;
-    return m_nodes <= limits::k_nodes || refuseNodes();
-}
-
-bool Guard::addSteps(qint64 count)
-{
-    m_steps += count;
-    return m_steps <= limits::k_steps ||
-           refuse("more than " + std::to_string(limits::k_steps) + " steps of comparing names");
+    m_memory += bytes;
+    return m_memory <= m_allowedMemory || refuseMemory();
 }
 
 bool Guard::refuse(std::string exceeded)
@@ -151,11 +212,10 @@ bool Guard::refuseGroups()
     return refuse("groups of a content model nested deeper than " + std::to_string(limits::k_levels) + " levels");
 }
 
-bool Guard::refuseNodes() { return refuse("more than " + std::to_string(limits::k_nodes) + " nodes"); }
-
-ParseFailure tooLarge()
+bool Guard::refuseMemory()
 {
-    return {1, 1, "the document is larger than " + std::to_string(limits::k_documentMiB) + " MiB"};
+    return refuse("nodes and attributes of more than " + std::to_string(m_allowedMemory / limits::k_bytesPerMiB) +
+                  " MiB");
 }
 
 } // namespace zupackage::xml

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "xml/content_model_groups.hpp"
+#include "xml/cost.hpp"
 #include "xml/document.hpp"
 #include "xml/open_tag.hpp"
 
@@ -14,37 +15,35 @@ QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED
 #include <QtXml/QXmlDefaultHandler>
 
-/// What a document may demand of the parser; no manifest comes near these. Beyond them the XML library overflows its
-/// stack (25,000 levels of elements, 200,000 of groups in a content model), takes gigabytes (one long entity, often
-/// referenced; millions of nodes; millions of attributes in an element) or minutes (see k_steps).
+/// Beyond these the XML library breaks: its stack overflows (at 25,000 levels of elements, 200,000 of groups in a content
+/// model), its sizes do (in a document of gigabytes), an entity of some bytes becomes gigabytes. No manifest comes near
+/// them. What only takes time or memory is no matter of limits but of cost, see cost.hpp.
 namespace zupackage::xml::limits {
+
+inline constexpr qint64 k_bytesPerMiB = 1024 * 1024;
 
 inline constexpr int k_documentMiB = 64;
 inline constexpr int k_levels = 256; ///< of elements, and of groups in a content model
-inline constexpr int k_namespaceDeclarations = 256;
-inline constexpr int k_attributes = 1024;   ///< of one element
-inline constexpr int k_declarations = 1024; ///< of entities and notations
 inline constexpr int k_expandedEntitiesMiB = 8;
-inline constexpr int k_nodes = 4 * 1024 * 1024; ///< elements, attributes, texts, comments, instructions, references
-
-/// What the parser does more than once for each node: it compares the attributes of an element with each other, and the
-/// namespace prefixes in scope at its end; it searches the text of each entity for each entity's name, and moves it for
-/// each that it finds. A step takes some nanoseconds.
-inline constexpr qint64 k_steps = qint64(1) << 30;
-
-inline constexpr qint64 k_bytesPerMiB = 1024 * 1024;
 
 } // namespace zupackage::xml::limits
 
 namespace zupackage::xml {
 
-/// The failure of a document that is larger than the limit.
-ParseFailure tooLarge();
+/// What is made of a document.
+enum class Model : std::uint8_t
+{
+    Tree,             ///< ours, right from the events
+    Dom,              ///< Qt's, of the same text once more, and then ours
+    DomWithNamespaces ///< the same with namespaces
+};
 
-/// Sees the events of a document before anything is made of them, and ends it where it exceeds a limit.
+/// Sees the events of a document before anything is made of them, and ends it where it exceeds a limit or costs too much.
 class Guard : public QXmlDefaultHandler
 {
 public:
+    Guard(Model model, qint64 documentBytes);
+
     /// Why the document ended before its end: a limit, or a syntax error in the parser's words.
     const std::optional<ParseFailure>& failure() const { return m_failure; }
 
@@ -60,7 +59,7 @@ public:
             return m_groups.depthAt(c) <= limits::k_levels || refuseGroups();
         if (c.unicode() > OpenTag::k_lastThatMatters)
             return true;
-        return m_tag.attributesAt(c) <= limits::k_nodes || refuseNodes();
+        return m_memory + cost::k_parsedAttribute * m_tag.attributesAt(c) <= m_allowedMemory || refuseMemory();
     }
 
     bool startDTD(const QString& name, const QString& publicId, const QString& systemId) override;
@@ -75,6 +74,7 @@ public:
                       const QXmlAttributes& attributes) override;
     bool endElement(const QString& uri, const QString& localName, const QString& name) override;
     bool characters(const QString& text) override;
+    bool startCDATA() override;
     bool endCDATA() override;
     bool comment(const QString& text) override;
     bool processingInstruction(const QString& target, const QString& data) override;
@@ -85,30 +85,36 @@ public:
 
 protected:
     /// Whether an element is open.
-    bool isInElement() const { return !m_prefixes.empty(); }
+    bool isInElement() const { return m_levels > 0; }
 
 private:
-    qint64 countNamespaceDeclarations(const QXmlAttributes& attributes);
-    bool addDeclaration();
-    bool addNodes(qint64 count);
-    bool addSteps(qint64 count);
+    bool startTreeElement(const QXmlAttributes& attributes);
+    bool startDomElement(const QString& name, const QXmlAttributes& attributes);
+    bool addNamespaces(const QXmlAttributes& attributes);
+    bool addNode(const QString& text);
+    bool addSteps(qint64 steps);
+    bool addMemory(qint64 bytes);
     bool refuse(std::string exceeded);
     bool refuseGroups();
-    bool refuseNodes();
+    bool refuseMemory();
 
+    const Model m_model;
+    const qint64 m_allowedSteps;
+    const qint64 m_allowedMemory;
     std::string m_exceeded;
     std::optional<ParseFailure> m_failure;
     QChar m_last;
     bool m_inDocumentType = false;
+    bool m_isInText = false;
     ContentModelGroups m_groups;
     OpenTag m_tag;
-    std::map<QString, qint64> m_entityBytes;
-    std::vector<qint64> m_prefixes; ///< the namespace prefixes in scope, for each open element
-    qint64 m_namespaceDeclarations = 0;
-    qint64 m_declarations = 0;
+    int m_levels = 0;
+    std::map<QString, qint64> m_entitySizes;
+    cost::Names m_entities;
+    std::vector<cost::Names> m_namespaces; ///< in scope, for each open element
     qint64 m_expandedBytes = 0;
-    qint64 m_nodes = 0;
     qint64 m_steps = 0;
+    qint64 m_memory = 0;
 };
 
 } // namespace zupackage::xml

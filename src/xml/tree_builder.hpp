@@ -20,7 +20,11 @@ enum class Namespaces : std::uint8_t
 class TreeBuilder final : public Guard
 {
 public:
-    explicit TreeBuilder(Namespaces namespaces) : m_namespaces(namespaces) {}
+    TreeBuilder(Namespaces namespaces, qint64 documentBytes)
+        : Guard(Model::Tree, documentBytes), m_namespaces(namespaces)
+    {
+        m_tree.reserve(static_cast<std::size_t>(documentBytes));
+    }
 
     /// Whether the document has something that must be left to QDomDocument: a document type, a reference to an undeclared
     /// entity; with namespaces, a prefixed element or several attributes that differ in their prefixes alone. The tree is

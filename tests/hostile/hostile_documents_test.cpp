@@ -1,0 +1,149 @@
+// Reads each hostile document in a process of its own, as a text and as a file, on the main thread and on a small stack,
+// with no more time and memory than its size allows.
+#include "hostile/hostile_documents.hpp"
+#include "support/files.hpp"
+#include "support/program.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <sstream>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace zu {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define ZU_SANITIZED 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#define ZU_SANITIZED 1
+#endif
+#endif
+#ifdef ZU_SANITIZED
+constexpr bool k_sanitized = true;
+#else
+constexpr bool k_sanitized = false;
+#endif
+#ifdef NDEBUG
+constexpr bool k_optimised = !k_sanitized;
+#else
+constexpr bool k_optimised = false;
+#endif
+
+/// Processor time, in seconds: one for a document of up to 1 MiB, beyond that ten times that of Qt's document. Builds
+/// that do not optimise get more.
+std::size_t seconds(std::uintmax_t bytes)
+{
+    constexpr std::uintmax_t k_MiB = 1024 * 1024;
+    const std::size_t allowed = bytes <= k_MiB + 1000 ? 1 : 1 + bytes / (2 * k_MiB);
+    return k_optimised ? allowed : 20 * allowed;
+}
+
+/// Address space, in MiB: that of the program and its libraries, and 256 or what the size allows.
+std::size_t mebibytes(std::uintmax_t bytes) { return k_sanitized ? 0 : 128 + 256 + 64 * bytes / (1024 * 1024); }
+
+std::string read(const std::string& form, const std::string& stack, const std::string& path, std::uintmax_t bytes)
+{
+    const test::ProgramResult result = test::runProgram(
+        ZUPACKAGE_READ_DOCUMENT, {form, stack, path, std::to_string(seconds(bytes)), std::to_string(mebibytes(bytes))});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.errors, "");
+    return result.output;
+}
+
+auto isOutcome(const std::string& outcome)
+{
+    return testing::AllOf(
+        testing::HasSubstr(outcome), testing::EndsWith("\n"),
+        testing::ResultOf([](const std::string& text) { return text == "read\n"; }, outcome == "read"));
+}
+
+/// Reads a file in all ways.
+void expectOutcomes(const std::string& path, const std::string& asText, const std::string& asFile)
+{
+    for (const char* stack : {"main", "small"}) {
+        SCOPED_TRACE(stack);
+        EXPECT_THAT(read("text", stack, path, fs::file_size(path)), isOutcome(asText));
+        EXPECT_THAT(read("file", stack, path, fs::file_size(path)), isOutcome(asFile));
+    }
+}
+
+class LargeHostileDocument : public testing::TestWithParam<test::HostileDocument>
+{
+};
+
+} // namespace
+
+TEST_P(LargeHostileDocument, IsReadOrRefusedInProportion)
+{
+    const test::TemporaryFolder folder;
+    const std::string path = folder.file("manifest.xml", GetParam().bytes());
+    expectOutcomes(path, GetParam().asText, GetParam().asFile);
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, LargeHostileDocument, testing::ValuesIn(test::largeHostileDocuments()),
+                         [](const auto& row) { return row.param.name; });
+
+// The outcomes of the small ones stand in a table beside them: name, as a text, as a file.
+TEST(HostileDocument, EachSmallOneHasItsOutcome)
+{
+    std::ostringstream outcomes;
+    std::vector<fs::path> files;
+    for (const auto& entry : fs::directory_iterator(test::sourcePath("tests/hostile/documents")))
+        files.push_back(entry.path());
+    std::sort(files.begin(), files.end());
+    for (const fs::path& file : files) {
+        const std::string asText = read("text", "main", file, 0);
+        const std::string asFile = read("file", "main", file, 0);
+        EXPECT_EQ(read("text", "small", file, 0), asText) << file;
+        EXPECT_EQ(read("file", "small", file, 0), asFile) << file;
+        outcomes << file.stem().string() << "\n    " << asText << "    " << asFile;
+    }
+    test::expectGolden(outcomes.str(), "../hostile/outcomes.txt");
+}
+
+TEST(HostileDocument, WhatIsNoRegularFileIsReadAsFarAsItGoes)
+{
+    const test::TemporaryFolder folder;
+    const auto open = [&folder](const std::string& path) { return "Could not open " + path + " for reading\n"; };
+    const std::string folderPath = folder.path().string();
+    EXPECT_EQ(read("file", "main", folderPath, 0), open(folderPath));
+    EXPECT_EQ(read("file", "main", folderPath + "/missing", 0), open(folderPath + "/missing"));
+    EXPECT_EQ(read("file", "main", "/dev/zero", 64 * 1024 * 1024), "the document is larger than 64 MiB\n");
+    EXPECT_EQ(read("file", "main", "/dev/null", 0), "unexpected end of file\n");
+    const std::string unreadable = folder.file("unreadable", "<p/>");
+    chmod(unreadable.c_str(), 0);
+    EXPECT_EQ(read("file", "main", unreadable, 0), geteuid() == 0 ? "read\n" : open(unreadable));
+}
+
+TEST(HostileDocument, ExternalEntitiesAndDocumentTypesAreNotOpened)
+{
+    // Who opened it would wait for a writer for ever.
+    const test::TemporaryFolder folder;
+    const std::string pipe = (folder.path() / "pipe").string();
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    for (const std::string& where : {pipe, "file://" + pipe})
+        for (const std::string& document :
+             {"<!DOCTYPE p SYSTEM '" + where + "'><p/>", "<!DOCTYPE p [<!ENTITY e SYSTEM '" + where + "'>]><p>&e;</p>",
+              "<!DOCTYPE p [<!ENTITY % e SYSTEM '" + where + "'> %e; ]><p/>"})
+            expectOutcomes(folder.file("manifest.xml", document), "read", "read");
+}
+
+TEST(HostileDocument, APipeIsReadToItsEnd)
+{
+    const test::TemporaryFolder folder;
+    const std::string pipe = (folder.path() / "pipe").string();
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    // It is read twice, into either model.
+    const std::string write = "(printf '<p>'; sleep 0.1; printf '</p>') >'" + pipe + "'; ";
+    ASSERT_EQ(std::system(("{ " + write + "sleep 0.1; " + write + "} &").c_str()), 0);
+    EXPECT_EQ(read("file", "main", pipe, 0), "read\n");
+}
+
+} // namespace zu

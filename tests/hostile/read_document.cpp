@@ -1,0 +1,94 @@
+// Reads a document in a process of its own, and does with it what a caller may do.
+// usage: zupackage_read_document text|file main|small PATH CPU_SECONDS MEMORY_MIB
+//   small: on a thread with a stack of 512 KiB; MEMORY_MIB: 0 for as much as there is
+#include <zupackage/package_info2.hpp>
+#include <zupackage/vxvalue.hpp>
+
+#include <zu/log.hpp>
+
+#include <fstream>
+#include <functional>
+#include <iostream>
+#include <iterator>
+#include <limits>
+#include <pthread.h>
+#include <sstream>
+#include <sys/resource.h>
+
+namespace {
+
+void limit(decltype(RLIMIT_CPU) resource, rlim_t most)
+{
+    const rlimit limits{most, most};
+    setrlimit(resource, &limits);
+}
+
+std::string contentOf(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// Prints, writes, encodes and copies the package.
+void use(zu::PackageInfo& package)
+{
+    std::ofstream("/dev/null") << package;
+    package.saveToManifestContent();
+    VX::VXValue value;
+    package.toVXValue(value);
+    const zu::PackageInfo copy(package);
+}
+
+/// @return what became of it: "read", or the words of the failure.
+std::string outcome(const std::string& form, const std::string& path)
+{
+    std::string words;
+    zu::log::addHandler([&words](const zu::log::Record& record) {
+        // The words stand behind a whole document, which may have any words in it.
+        const std::string message(
+            record.message.substr(record.message.size() - std::min<std::size_t>(200, record.message.size())));
+        const std::size_t place = message.rfind(", column ");
+        words = place == std::string::npos ? message : message.substr(message.find(": ", place) + 2);
+    });
+    zu::PackageInfo package;
+    if (!(form == "text" ? package.loadFromManifestContent(contentOf(path)) : package.loadFromManifestFile(path)))
+        return words;
+    use(package);
+    if (form == "file")
+        zu::loadManifest(path);
+    return "read";
+}
+
+void* callOnThread(void* function)
+{
+    (*static_cast<std::function<void()>*>(function))();
+    return nullptr;
+}
+
+void runOnSmallStack(std::function<void()> function)
+{
+    pthread_attr_t attributes;
+    pthread_attr_init(&attributes);
+    pthread_attr_setstacksize(&attributes, 512 * 1024);
+    pthread_t thread{};
+    pthread_create(&thread, &attributes, &callOnThread, &function);
+    pthread_join(thread, nullptr);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 6)
+        return 2;
+    limit(RLIMIT_CPU, std::stoul(argv[4]));
+    if (const rlim_t mebibytes = std::stoul(argv[5]); mebibytes > 0)
+        limit(RLIMIT_AS, mebibytes * 1024 * 1024);
+    zu::log::removeHandler(zu::log::k_defaultHandler);
+    const auto read = [&] { std::cout << outcome(argv[1], argv[3]) << '\n'; };
+    if (std::string(argv[2]) == "small")
+        runOnSmallStack(read);
+    else
+        read();
+    return 0;
+}
