@@ -1,19 +1,25 @@
+#include "dump/records_dump.hpp"
 #include "records/dialog_info_p.hpp"
 #include "records/private_record.hpp"
 
-#include <ostream>
+namespace zupackage {
+
+void dump(LinePrinter& out, const zu::DialogInfoPrivate& record)
+{
+    out << "Topic name: " << record.topicName << k_lineEnd;
+    out << "Type version: " << record.typeVersion << k_lineEnd;
+    out << "Topic files: " << k_lineEnd;
+    for (const auto& [lang, path] : record.topics)
+        out << lang << " -> " << path << k_lineEnd;
+}
+
+} // namespace zupackage
 
 namespace zu {
 
 std::ostream& operator<<(std::ostream& out, const DialogInfo& dialog)
 {
-    const DialogInfoPrivate& record = PrivateRecord::of(dialog);
-    out << "Topic name: " << record.topicName << std::endl;
-    out << "Type version: " << record.typeVersion << std::endl;
-    out << "Topic files: " << std::endl;
-    for (const auto& [lang, path] : record.topics)
-        out << lang << " -> " << path << std::endl;
-    return out;
+    return zupackage::print(out, PrivateRecord::of(dialog));
 }
 
 } // namespace zu

@@ -1,4 +1,4 @@
-#include "dump/texts_dump.hpp"
+#include "dump/records_dump.hpp"
 #include "records/package_info_p.hpp"
 #include "records/private_record.hpp"
 
@@ -6,55 +6,55 @@ namespace zupackage {
 
 namespace {
 
-void dumpIdentity(std::ostream& out, const zu::PackageInfoPrivate& package)
+void dumpIdentity(LinePrinter& out, const zu::PackageInfoPrivate& package)
 {
-    out << "UUID: " << package.uuid << std::endl;
-    out << "Version: " << package.version << std::endl;
-    out << "Type Version: " << package.typeVersion << std::endl;
-    out << "Install Only At Startup: " << flagText(package.installOnlyAtStartup) << std::endl;
-    out << "Author: " << package.author << std::endl;
-    out << "Organization: " << package.organization << std::endl;
-    out << "Date: " << package.date << std::endl;
-    out << "Channel: " << package.channel << std::endl;
-    out << "Path: " << package.path << std::endl;
+    out << "UUID: " << package.uuid << k_lineEnd;
+    out << "Version: " << package.version << k_lineEnd;
+    out << "Type Version: " << package.typeVersion << k_lineEnd;
+    out << "Install Only At Startup: " << flagText(package.installOnlyAtStartup) << k_lineEnd;
+    out << "Author: " << package.author << k_lineEnd;
+    out << "Organization: " << package.organization << k_lineEnd;
+    out << "Date: " << package.date << k_lineEnd;
+    out << "Channel: " << package.channel << k_lineEnd;
+    out << "Path: " << package.path << k_lineEnd;
 }
 
-void dumpRequirements(std::ostream& out, const zu::PackageInfoPrivate& package)
+void dumpRequirements(LinePrinter& out, const zu::PackageInfoPrivate& package)
 {
-    out << "Robotic requirements:" << std::endl;
+    out << "Robotic requirements:" << k_lineEnd;
     for (const zu::RobotRequirement& robot : package.robotRequirements)
         out << "Model:" << robot.model << "; Head: " << robot.minHeadVersion << " ~ " << robot.maxHeadVersion
-            << "; Body: " << robot.minBodyVersion << " ~ " << robot.maxBodyVersion << std::endl;
-    out << "Software requirements:" << std::endl;
+            << "; Body: " << robot.minBodyVersion << " ~ " << robot.maxBodyVersion << k_lineEnd;
+    out << "Software requirements:" << k_lineEnd;
     for (const zu::MorvoRequirement& morvo : package.morvoRequirements)
-        out << morvo.minVersion << " ~ " << morvo.maxVersion << std::endl;
+        out << morvo.minVersion << " ~ " << morvo.maxVersion << k_lineEnd;
 }
 
 template <class Record>
-void dumpRecords(std::ostream& out, const char* title, const char* underline, const std::list<Record>& records)
+void dumpRecords(LinePrinter& out, const char* title, const char* underline, const std::list<Record>& records)
 {
-    out << title << std::endl << underline << std::endl;
+    out << title << k_lineEnd << underline << k_lineEnd;
     for (const Record& record : records)
-        out << record;
+        dump(out, zu::PrivateRecord::of(record));
 }
 
-void dump(std::ostream& out, const zu::PackageInfoPrivate& package)
+} // namespace
+
+void dump(LinePrinter& out, const zu::PackageInfoPrivate& package)
 {
     dumpIdentity(out, package);
-    out << "Names: " << std::endl;
+    out << "Names: " << k_lineEnd;
     dumpTexts(out, package.langToName);
-    out << "Descriptions:" << std::endl;
+    out << "Descriptions:" << k_lineEnd;
     dumpTexts(out, package.langToDesc);
-    out << "Supported Languages:" << std::endl;
+    out << "Supported Languages:" << k_lineEnd;
     for (const std::string& lang : package.supportedLanguages)
-        out << "  " << lang << std::endl;
+        out << "  " << lang << k_lineEnd;
     dumpRequirements(out, package);
     dumpRecords(out, "Languages", "*********", package.languages);
     dumpRecords(out, "Behaviors", "*********", package.behaviors);
     dumpRecords(out, "Dialogs", "*******", package.dialogs);
 }
-
-} // namespace
 
 } // namespace zupackage
 
@@ -62,8 +62,7 @@ namespace zu {
 
 std::ostream& operator<<(std::ostream& out, const PackageInfo& package)
 {
-    zupackage::dump(out, PrivateRecord::of(package));
-    return out;
+    return zupackage::print(out, PrivateRecord::of(package));
 }
 
 } // namespace zu
