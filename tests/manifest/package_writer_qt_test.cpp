@@ -40,7 +40,9 @@ std::string withSortedAttributes(const std::string& document)
         } else if (document[at] == '<' && document[at + 1] != '/' && document[at + 1] != '?') {
             moveStartTag(document, at, sorted);
         } else {
-            sorted += document[at++];
+            const std::size_t end = std::min(document.find('<', at + 1), document.size());
+            sorted.append(document, at, end - at);
+            at = end;
         }
     }
     return sorted;
