@@ -59,7 +59,7 @@ constexpr qint64 declaringEntity(Names entities, qint64 textSize, qint64 referen
 }
 
 /// Expanding an entity.
-constexpr qint64 expandingEntity(qint64 nameSize) { return 250 + nameSize; }
+constexpr qint64 expandingEntity(qint64 nameSize) { return 500 + nameSize; }
 
 /// Finding the attributes of Qt's element by their numbers.
 constexpr qint64 numberingAttributes(qint64 count) { return count * count * 4; }

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 namespace {
 
 /// Where the project's quoted includes start from, beside the folder of the file that has them.
-constexpr const char* k_roots[] = {"framework/src/", "framework/tests/", "src/", "cli/", "tests/", "bench/"};
+constexpr const char* k_roots[] = {"framework/src/", "framework/tests/", "src/", "cli/", "tests/", "bench/", "fuzz/"};
 
 bool startsWith(const std::string& text, const std::string& prefix)
 {
@@ -62,7 +62,7 @@ std::string targetOf(const Include& include, const std::string& file)
 std::vector<std::string> sourcesAndHeaders()
 {
     std::vector<std::string> files;
-    for (const char* folder : {"bench", "framework", "include", "src", "cli", "examples", "tests"})
+    for (const char* folder : {"bench", "framework", "fuzz", "include", "src", "cli", "examples", "tests"})
         for (const auto& entry : fs::recursive_directory_iterator(sourcePath(folder)))
             if (entry.path().extension() == ".cpp" || entry.path().extension() == ".hpp")
                 files.push_back(fs::relative(entry.path(), sourcePath("")).string());
