@@ -69,9 +69,9 @@ AnyValue::AnyValue(const TypeInterface* type)
         placeAt(type, value);
         return;
     }
-    std::memcpy(&m_word, value, type->wordSize());
+    std::memcpy(m_word, value, type->wordSize());
     type->destroy(value);
-    placeAt(type, &m_word);
+    placeAt(type, m_word);
 }
 
 AnyValue::AnyValue(const AnyReferenceBase& source) { copyFrom(source); }
@@ -87,8 +87,8 @@ void AnyValue::copyFrom(const AnyReferenceBase& source)
 void AnyValue::hold(const TypeInterface* type, const void* source)
 {
     if (type->wordSize() != 0) {
-        std::memcpy(&m_word, source, type->wordSize());
-        placeAt(type, &m_word);
+        std::memcpy(m_word, source, type->wordSize());
+        placeAt(type, m_word);
     } else {
         const CopyLevel level;
         placeAt(type, type->clone(source));

@@ -2,6 +2,8 @@
 
 #include <zu/value/any_reference.hpp>
 
+#include <cstdint>
+#include <cstring>
 #include <string>
 #include <utility>
 
@@ -72,7 +74,7 @@ public:
     void swap(AnyValue& other) noexcept;
 
 private:
-    bool isInPlace() const noexcept { return m_address == &m_word; }
+    bool isInPlace() const noexcept { return m_address == m_word; }
     AnyReference writable() const noexcept;
 
     void copyFrom(const AnyReferenceBase& source);
@@ -93,7 +95,8 @@ private:
         m_address = address;
     }
 
-    std::uint64_t m_word = 0;
+    /// Bytes, for callers write to the value in it as what it is, and compilers know that bytes may change so.
+    alignas(std::uint64_t) unsigned char m_word[sizeof(std::uint64_t)] = {};
 };
 
 inline void swap(AnyValue& a, AnyValue& b) noexcept { a.swap(b); }
@@ -101,8 +104,8 @@ inline void swap(AnyValue& a, AnyValue& b) noexcept { a.swap(b); }
 inline void AnyValue::takeFrom(AnyValue& other) noexcept
 {
     m_tagged = other.m_tagged;
-    m_word = other.m_word;
-    m_address = other.isInPlace() ? &m_word : other.m_address;
+    std::memcpy(m_word, other.m_word, sizeof m_word);
+    m_address = other.isInPlace() ? m_word : other.m_address;
     other.m_tagged = 0;
     other.m_address = nullptr;
 }
