@@ -31,7 +31,8 @@ public:
 
     const boost::typeindex::stl_type_index& index() const noexcept { return m_index; }
 
-    /// The demangled name, with "std::string" for the long name that the compilers give it.
+    /// The name as a person writes it: "std::map<std::string, int>", and not as compilers do, with every default
+    /// argument.
     std::string name() const;
 
     /// Whether the type, or one that it is made of, stands in an anonymous namespace. Such types of two libraries are
