@@ -1,3 +1,5 @@
+#include "settled_type.hpp"
+
 #include <zu/log.hpp>
 #include <zu/native/struct.hpp>
 #include <zu/registry.hpp>
@@ -9,6 +11,7 @@
 #include <shared_mutex>
 #include <stdexcept>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace zu {
@@ -37,37 +40,55 @@ public:
         return registry;
     }
 
-    bool addType(const TypeInterface* type)
+    enum class Answer
     {
+        Added,
+        Taken,  ///< by this interface or another
+        TooLate ///< the C++ type was used before
+    };
+
+    Answer addType(const TypeInterface* type)
+    {
+        ByName named = namedAlone(type);
         const std::unique_lock lock(m_mutex);
-        if (!m_byInfo.emplace(type->info(), type).second)
-            return false;
-        m_byName.emplace(type->name(), type);
-        return true;
+        const Answer answer = addIdentity(type);
+        if (answer == Answer::Added)
+            m_byName.merge(named);
+        return answer;
     }
 
     /// @return the interface that has the name now, and whether it was added.
     std::pair<const TypeInterface*, bool> addName(const TypeInterface* type)
     {
+        ByName named = namedAlone(type);
         const std::unique_lock lock(m_mutex);
-        const auto [named, added] = m_byName.emplace(type->name(), type);
-        return {named->second, added};
+        const auto added = m_byName.insert(named.extract(named.begin()));
+        return {added.position->second, added.inserted};
     }
 
     /// Adds under both keys or under none; the name may be that of another interface of the same type.
-    /// @return the interface that has the name now.
-    const TypeInterface* addStruct(const TypeInterface* type)
+    /// @return what came of it, and the interface that has the name now when it is another type's.
+    std::pair<Answer, const TypeInterface*> addStruct(const TypeInterface* type)
+    {
+        ByName named = namedAlone(type);
+        const std::unique_lock lock(m_mutex);
+        const auto owner = m_byName.find(named.begin()->first);
+        if (owner != m_byName.end() && owner->second->info() != type->info())
+            return {Answer::Taken, owner->second};
+        const Answer answer = addIdentity(type);
+        if (answer == Answer::Added)
+            m_byName.merge(named);
+        return {answer, nullptr};
+    }
+
+    const TypeInterface* settle(const TypeInfo& info, const TypeInterface* made)
     {
         const std::unique_lock lock(m_mutex);
-        const auto named = m_byName.find(type->name());
-        if (named != m_byName.end() && named->second->info() != type->info())
-            return named->second;
-        const auto [known, added] = m_byInfo.emplace(type->info(), type);
-        if (!added)
-            return known->second;
-        if (named == m_byName.end())
-            m_byName.emplace(type->name(), type);
-        return type;
+        const auto registered = m_byInfo.find(info);
+        if (registered != m_byInfo.end())
+            return registered->second;
+        m_made.insert(info.index().raw_name());
+        return made;
     }
 
     const TypeInterface* get(const TypeInfo& info) const
@@ -85,9 +106,28 @@ public:
     }
 
 private:
+    using ByName = std::map<std::string, const TypeInterface*, std::less<>>;
+
+    /// The entry of one interface, made before anything is locked: names may be composed of those of other types, which
+    /// are looked up here. What remains to be done with it needs no memory.
+    static ByName namedAlone(const TypeInterface* type) { return {{type->name(), type}}; }
+
+    /// To be called under the lock.
+    Answer addIdentity(const TypeInterface* type)
+    {
+        if (m_byInfo.count(type->info()) != 0)
+            return Answer::Taken;
+        if (m_made.count(type->info().index().raw_name()) != 0)
+            return Answer::TooLate;
+        m_byInfo.emplace(type->info(), type);
+        return Answer::Added;
+    }
+
     mutable std::shared_mutex m_mutex;
     std::unordered_map<TypeInfo, const TypeInterface*> m_byInfo;
-    std::map<std::string, const TypeInterface*, std::less<>> m_byName;
+    ByName m_byName;
+    /// The types whose interface some library has made; by name, for the library may be unloaded.
+    std::unordered_set<std::string> m_made;
 };
 
 std::string takenMessage(const TypeInterface& type, const TypeInterface& owner)
@@ -95,6 +135,16 @@ std::string takenMessage(const TypeInterface& type, const TypeInterface& owner)
     std::string message = "the name ";
     message.append(type.name()).append(" of ").append(type.info().name()).append(" is that of ");
     return message.append(owner.info().name()).append(" already");
+}
+
+bool accept(const char* function, const TypeInterface& type, Registry::Answer answer)
+{
+    if (answer == Registry::Answer::TooLate) {
+        return refuse(function,
+                      type.info().name() +
+                          " was used before it was registered, so that it is known as something else already");
+    }
+    return answer == Registry::Answer::Added;
 }
 
 } // namespace
@@ -108,7 +158,7 @@ bool registerType(const TypeInfo& info, const TypeInterface* type)
         return refuse(k_function, "the interface given for " + info.name() + " is that of " + type->info().name());
     if (info.isAnonymous())
         return refuse(k_function, anonymousMessage(info));
-    return Registry::instance().addType(type);
+    return accept(k_function, *type, Registry::instance().addType(type));
 }
 
 bool registerStruct(const TypeInterface* type)
@@ -132,15 +182,20 @@ const TypeInterface* findType(std::string_view name) { return Registry::instance
 
 namespace detail {
 
+const TypeInterface* settledType(const TypeInfo& info, const TypeInterface* made)
+{
+    return Registry::instance().settle(info, made);
+}
+
 bool registerOwned(std::unique_ptr<const StructTypeInterface> type)
 {
     constexpr auto k_function = "zu::registerStruct";
     if (type->info().isAnonymous())
         return refuse(k_function, anonymousMessage(type->info()));
-    const TypeInterface* owner = Registry::instance().addStruct(type.get());
-    if (owner->info() != type->info())
+    const auto [answer, owner] = Registry::instance().addStruct(type.get());
+    if (owner)
         return refuse(k_function, takenMessage(*type, *owner));
-    if (owner != type.get())
+    if (!accept(k_function, *type, answer))
         return false;
     static_cast<void>(type.release()); // the registry's for the life of the process
     return true;

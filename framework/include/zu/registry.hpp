@@ -9,11 +9,11 @@
 /// and the library that an interface comes from must stay loaded.
 namespace zu {
 
-/// Makes `type` what is used for values of the C++ type `info`. To be called before the first use of the C++ type: a
-/// use before that has made an interface of its own, which the library of that use keeps.
+/// Makes `type` what is used for values of the C++ type `info`. To be called before the first use of the C++ type, which
+/// would otherwise be known as something else to the library of that use.
 /// @return false, and nothing is changed, when an interface is registered already; the same, with a message to the
-/// category "zutype.registry", when `type` is null or its identity is not `info`, or the C++ type stands in an
-/// anonymous namespace.
+/// category "zutype.registry", when the C++ type was used before, when `type` is null or its identity is not `info`, or
+/// when the C++ type stands in an anonymous namespace.
 ZU_EXPORT bool registerType(const TypeInfo& info, const TypeInterface* type);
 
 /// Makes a struct known under its class name, exactly as it is spelled.

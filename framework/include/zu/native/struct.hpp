@@ -126,7 +126,8 @@ std::unique_ptr<const StructTypeInterface> makeStruct(std::string className, std
 ///     registerStruct<Point>("::geometry::Point", {{"x", &Point::x}, {"y", &Point::y}});
 ///
 /// @return false, and nothing is changed, when T is registered already; the same, with a message to the category
-/// "zutype.registry", when the class name is another type's or T stands in an anonymous namespace.
+/// "zutype.registry", when T was used before, when the class name is another type's or T stands in an anonymous
+/// namespace.
 /// Throws std::invalid_argument when the class name or a member's name is empty or a member's name is there twice.
 template <class T>
 bool registerStruct(std::string className, std::vector<Member<T>> members)

@@ -21,8 +21,9 @@ public:
     TypeSlot& operator=(const TypeSlot&) = delete;
     ~TypeSlot() = default;
 
-    /// The registered interface of the type, else what `make` gives. Threads that come while it runs wait for it, so
-    /// it must not ask for the same slot; when it throws, its caller gets the exception and the next thread tries anew.
+    /// The registered interface of the type, else what `make` gives. Threads that come while it runs wait for it; when
+    /// it throws, its caller gets the exception and the next thread tries anew. Throws std::logic_error when the slot
+    /// is asked for by what `make` asks for.
     const TypeInterface* get(const TypeInfo& info, Make make)
     {
         const TypeInterface* type = ready();
@@ -36,7 +37,6 @@ private:
     const TypeInterface* resolve(const TypeInfo& info, Make make);
 
     std::atomic<const TypeInterface*> m_type{nullptr};
-    bool m_beingMade = false; ///< guarded by the mutex of resolve()
 };
 
 /// Each library's own, whatever its default visibility: a plug-in that is unloaded takes the interfaces that it made
@@ -49,7 +49,9 @@ template <class T>
 /// The interface of a C++ type, cv-qualifiers and references stripped: the registered one, else one that is made on the
 /// first call, at most once in a library. The answer never changes afterwards; asking again costs an atomic load.
 /// Throws std::invalid_argument for a type of an anonymous namespace that is not known yet: give it a namespace with a
-/// name. For an unregistered class that nothing describes the kind is Unknown.
+/// name. For an unregistered class that nothing describes the kind is Unknown. Throws std::logic_error, naming the
+/// types, when the making of an interface asks for that very interface; describing a struct whose members hold such
+/// structs again does not.
 template <class T>
 const TypeInterface* typeOf()
 {
