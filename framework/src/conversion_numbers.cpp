@@ -87,7 +87,7 @@ bool intToInt(Conversion& conversion, const AnyReferenceBase& source, const AnyR
 {
     const Whole number{intType(source).get(source.address()), intType(source).isSigned()};
     const IntTypeInterface& type = intType(target);
-    if (!contains(rangeOf(type), number))
+    if (!contains(rangeOf(type), number) || !type.accepts(number.bits))
         return failForRange(conversion, number, type);
     type.set(target.writableAddress(), number.bits);
     return true;
@@ -113,8 +113,11 @@ bool floatToInt(Conversion& conversion, const AnyReferenceBase& source, const An
     const IntTypeInterface& type = intType(target);
     if (!contains(rangeOf(type), whole)) // NaN and infinities are in none
         return failForRange(conversion, number, type);
-    type.set(target.writableAddress(), whole < 0 ? static_cast<std::int64_t>(whole)
-                                                 : static_cast<std::int64_t>(static_cast<std::uint64_t>(whole)));
+    const std::int64_t bits =
+        whole < 0 ? static_cast<std::int64_t>(whole) : static_cast<std::int64_t>(static_cast<std::uint64_t>(whole));
+    if (!type.accepts(bits))
+        return failForRange(conversion, number, type);
+    type.set(target.writableAddress(), bits);
     return true;
 }
 

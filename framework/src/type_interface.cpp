@@ -22,7 +22,6 @@ namespace zu {
 // Out of line, so that the interfaces' type information stands in this library alone.
 TypeInterface::~TypeInterface() = default;
 UnknownTypeInterface::~UnknownTypeInterface() = default;
-IntTypeInterface::~IntTypeInterface() = default;
 FloatTypeInterface::~FloatTypeInterface() = default;
 StringTypeInterface::~StringTypeInterface() = default;
 RawTypeInterface::~RawTypeInterface() = default;

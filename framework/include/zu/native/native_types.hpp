@@ -9,6 +9,7 @@
 /// primary template stands here, below everything that is more special, and the headers beside this one do not suffice
 /// for typeOf().
 #include <zu/native/dynamic.hpp>
+#include <zu/native/enumeration.hpp>
 #include <zu/native/function.hpp>
 #include <zu/native/list.hpp>
 #include <zu/native/map.hpp>

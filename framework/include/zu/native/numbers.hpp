@@ -8,25 +8,12 @@ namespace zu {
 
 namespace detail {
 
-template <class T, bool = std::is_enum_v<T>>
-struct NumberOf
-{
-    using type = T;
-};
-template <class T>
-struct NumberOf<T, true>
-{
-    using type = std::underlying_type_t<T>;
-};
-
 template <class T>
 class NativeInt final : public Native<T, IntTypeInterface>
 {
-    using Number = typename NumberOf<T>::type;
-
 public:
-    unsigned byteSize() const noexcept override { return std::is_same_v<Number, bool> ? 0 : sizeof(T); }
-    bool isSigned() const noexcept override { return std::is_signed_v<Number>; }
+    unsigned byteSize() const noexcept override { return std::is_same_v<T, bool> ? 0 : sizeof(T); }
+    bool isSigned() const noexcept override { return std::is_signed_v<T>; }
     std::int64_t get(const void* value) const override { return static_cast<std::int64_t>(this->object(value)); }
     void set(void* value, std::int64_t number) const override { this->object(value) = static_cast<T>(number); }
 };
@@ -43,8 +30,7 @@ public:
 } // namespace detail
 
 template <class T>
-struct NativeType<T, std::enable_if_t<std::is_integral_v<T> || std::is_enum_v<T>>>
-    : detail::MadeAs<detail::NativeInt<T>>
+struct NativeType<T, std::enable_if_t<std::is_integral_v<T>>> : detail::MadeAs<detail::NativeInt<T>>
 {
     static_assert(sizeof(T) <= sizeof(std::int64_t), "integers have at most 64 bits");
 };

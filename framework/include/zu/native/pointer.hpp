@@ -15,6 +15,15 @@ namespace zu {
 
 namespace detail {
 
+template <class T, class = void>
+inline constexpr bool isComplete = false;
+template <class T>
+inline constexpr bool isComplete<T, std::void_t<decltype(sizeof(T))>> = true;
+
+/// What is known of what a pointer to T points to: nothing, as of void, where T is incomplete, an array or volatile.
+template <class T>
+using Pointee = std::conditional_t<isComplete<T> && !std::is_array_v<T> && !std::is_volatile_v<T>, T, void>;
+
 template <class Pointer, class Pointee, PointerKind kind>
 class NativePointer final : public Native<Pointer, PointerTypeInterface>
 {
@@ -37,17 +46,17 @@ public:
 
 template <class T>
 struct NativeType<T*, std::enable_if_t<!std::is_function_v<T>>>
-    : detail::MadeAs<detail::NativePointer<T*, T, PointerKind::Raw>>
+    : detail::MadeAs<detail::NativePointer<T*, detail::Pointee<T>, PointerKind::Raw>>
 {
 };
 template <class T>
 struct NativeType<std::shared_ptr<T>>
-    : detail::MadeAs<detail::NativePointer<std::shared_ptr<T>, T, PointerKind::Shared>>
+    : detail::MadeAs<detail::NativePointer<std::shared_ptr<T>, detail::Pointee<T>, PointerKind::Shared>>
 {
 };
 template <class T>
 struct NativeType<boost::shared_ptr<T>>
-    : detail::MadeAs<detail::NativePointer<boost::shared_ptr<T>, T, PointerKind::Shared>>
+    : detail::MadeAs<detail::NativePointer<boost::shared_ptr<T>, detail::Pointee<T>, PointerKind::Shared>>
 {
 };
 
