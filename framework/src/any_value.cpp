@@ -1,5 +1,5 @@
 #include <zu/any_value.hpp>
-#include <zu/type/type_interface.hpp>
+#include <zu/type/string.hpp>
 
 #include <cstring>
 #include <stdexcept>
@@ -56,6 +56,11 @@ void destroyNested(const TypeInterface* type, void* value) noexcept
     --t_destroyDepth;
 }
 
+bool isViewOfText(const TypeInterface& type)
+{
+    return type.kind() == TypeKind::String && static_cast<const StringTypeInterface&>(type).isView();
+}
+
 } // namespace
 
 AnyValue::AnyValue(const TypeInterface* type)
@@ -86,7 +91,9 @@ void AnyValue::copyFrom(const AnyReferenceBase& source)
 
 void AnyValue::hold(const TypeInterface* type, const void* source)
 {
-    if (type->wordSize() != 0) {
+    if (isViewOfText(*type)) {
+        placeAt(typeOf<std::string>(), new std::string(static_cast<const StringTypeInterface*>(type)->get(source)));
+    } else if (type->wordSize() != 0) {
         std::memcpy(m_word, source, type->wordSize());
         placeAt(type, m_word);
     } else {
@@ -97,7 +104,7 @@ void AnyValue::hold(const TypeInterface* type, const void* source)
 
 void AnyValue::holdMoved(const TypeInterface* type, void* source)
 {
-    if (type->wordSize() != 0)
+    if (type->wordSize() != 0 || isViewOfText(*type))
         hold(type, source);
     else
         placeAt(type, type->take(source));

@@ -1,6 +1,7 @@
 #include "conversion_rules.hpp"
 
 #include <zu/type/dynamic.hpp>
+#include <zu/type/optional.hpp>
 #include <zu/type/raw.hpp>
 #include <zu/type/string.hpp>
 
@@ -12,9 +13,12 @@ namespace {
 
 using detail::Conversion;
 
-bool stringToString(Conversion&, const AnyReferenceBase& source, const AnyReference& target)
+bool stringToString(Conversion& conversion, const AnyReferenceBase& source, const AnyReference& target)
 {
-    static_cast<const StringTypeInterface&>(*target.type()).set(target.writableAddress(), source.text());
+    const auto& type = static_cast<const StringTypeInterface&>(*target.type());
+    if (type.isView())
+        return conversion.fail([&type] { return type.name() + " has no room for a text"; });
+    type.set(target.writableAddress(), source.text());
     return true;
 }
 
@@ -58,8 +62,17 @@ namespace detail {
 
 bool Conversion::run(const AnyReferenceBase& source, const AnyReference& target)
 {
+    ++m_runs;
+    const bool done = attemptSafely(source, target);
+    --m_runs;
+    return done;
+}
+
+bool Conversion::attemptSafely(const AnyReferenceBase& source, const AnyReference& target)
+{
     try {
-        return attempt(source, target);
+        const Walk::Step step(m_walk, source);
+        return step ? attempt(source, target) : fail([&step] { return step.refusal(); });
     } catch (const std::bad_alloc&) {
         throw;
     } catch (...) {
@@ -69,10 +82,9 @@ bool Conversion::run(const AnyReferenceBase& source, const AnyReference& target)
 
 bool Conversion::attempt(const AnyReferenceBase& source, const AnyReference& target)
 {
-    if (m_depth > k_maxNesting)
-        return fail([] { return "the value is nested deeper than " + std::to_string(k_maxNesting) + " levels"; });
     const bool isToDynamic = target.kind() == TypeKind::Dynamic;
-    if (source.isEmpty() && !isToDynamic)
+    const bool isToOptional = target.kind() == TypeKind::Optional;
+    if (source.isEmpty() && !isToDynamic && !isToOptional)
         return fail([] { return "there is no value"; });
     if (target.isEmpty())
         return fail([] { return "there is no target"; });
@@ -86,11 +98,33 @@ bool Conversion::attempt(const AnyReferenceBase& source, const AnyReference& tar
         static_cast<const DynamicTypeInterface&>(type).set(target.writableAddress(), AnyReference(source));
         return true;
     }
-    if (source.kind() == TypeKind::Dynamic)
-        return runPart(source.content(), target, [] { return std::string(); });
+    if (source.kind() == TypeKind::Dynamic || source.kind() == TypeKind::Optional)
+        return run(source.content(), target);
+    if (isToOptional)
+        return setOptional(source, target);
     if (const Rule rule = ruleFor(source.kind(), type.kind()))
         return rule(*this, source, target);
-    return fail([&] { return m_depth == 0 ? "" : nameOf(source.type()) + " does not convert to " + type.name(); });
+    return fail([&] {
+        return m_runs == 1 && m_parts == 0 ? "" : nameOf(source.type()) + " does not convert to " + type.name();
+    });
+}
+
+bool Conversion::setOptional(const AnyReferenceBase& source, const AnyReference& target)
+{
+    const auto& type = static_cast<const OptionalTypeInterface&>(*target.type());
+    if (source.isEmpty()) {
+        type.reset(target.writableAddress());
+        return true;
+    }
+    const AnyReference old = type.value(target.writableAddress());
+    // What a struct has besides its members stays as it is, as without the optional around it.
+    const Scratch value = old.kind() == TypeKind::Tuple ? Scratch(old) : Scratch(type.valueType());
+    if (!value)
+        return fail([&type] { return type.valueType()->name() + " has no default value"; });
+    if (!runPart(source, value.reference(), [] { return std::string(); }))
+        return false;
+    type.setMoved(target.writableAddress(), value.get());
+    return true;
 }
 
 bool Conversion::failFor(std::exception_ptr cause)
@@ -112,6 +146,18 @@ bool Scratch::moveTo(Conversion& conversion, const AnyReference& target) const
 {
     return m_type->assignMoved(target.writableAddress(), m_value) ||
            conversion.fail([this] { return m_type->name() + " cannot be assigned"; });
+}
+
+bool Scratch::renew(Conversion& conversion)
+{
+    if (m_type->kind() != TypeKind::Tuple)
+        return true;
+    void* const fresh = m_type->initializeStorage();
+    if (!fresh)
+        return conversion.fail([this] { return m_type->name() + " has no default value"; });
+    m_type->destroy(m_value);
+    m_value = fresh;
+    return true;
 }
 
 void convertOrThrow(const AnyReferenceBase& source, const AnyReference& target) { convert(source, target); }

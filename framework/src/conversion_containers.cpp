@@ -48,14 +48,15 @@ struct ListFill
     Conversion& conversion;
     const ListTypeInterface& type;
     const Scratch& list;
-    const Scratch& element;
+    Scratch& element;
     std::size_t index = 0;
 
     static bool append(void* context, const AnyReference& source)
     {
         auto& fill = *static_cast<ListFill*>(context);
         const std::size_t index = fill.index++;
-        if (!fill.conversion.runPart(source, fill.element.reference(), [index] { return stepTo(index); }))
+        if ((index != 0 && !fill.element.renew(fill.conversion)) ||
+            !fill.conversion.runPart(source, fill.element.reference(), [index] { return stepTo(index); }))
             return false;
         fill.type.appendMoved(fill.list.get(), fill.element.get());
         return true;
@@ -80,8 +81,8 @@ struct MapFill
     Conversion& conversion;
     const MapTypeInterface& type;
     const Scratch& map;
-    const Scratch& key;
-    const Scratch& value;
+    Scratch& key;
+    Scratch& value;
     std::size_t index = 0;
 
     static bool insert(void* context, const AnyReference& sourceKey, const AnyReference& sourceValue)
@@ -89,6 +90,8 @@ struct MapFill
         auto& fill = *static_cast<MapFill*>(context);
         const std::size_t index = fill.index++;
         const auto step = [&] { return stepTo(sourceKey, index); };
+        if (index != 0 && (!fill.key.renew(fill.conversion) || !fill.value.renew(fill.conversion)))
+            return false;
         if (!fill.conversion.runPart(sourceKey, fill.key.reference(), [&step] { return step() + "(key)"; }) ||
             !fill.conversion.runPart(sourceValue, fill.value.reference(), step))
             return false;
@@ -122,17 +125,37 @@ std::vector<AnyReference> membersOf(const AnyReferenceBase& tuple)
     return members;
 }
 
+/// A struct without members has names, too: none is missing.
+bool isNamed(const StructTypeInterface& type) { return !type.className().empty() || !type.elementsName().empty(); }
+
 bool haveNames(Conversion& conversion, const StructTypeInterface& type)
 {
+    if (!isNamed(type))
+        return conversion.fail([&] { return "the members of " + type.name() + " have no names"; });
     const std::size_t names = type.elementsName().size();
     const std::size_t members = type.memberTypes().size();
-    if (names == members && names != 0)
-        return true;
-    return conversion.fail([&] {
-        return names == 0 ? "the members of " + type.name() + " have no names"
-                          : type.name() + " has " + std::to_string(members) + " members and " + std::to_string(names) +
-                                " names";
+    return names == members || conversion.fail([&] {
+        return type.name() + " has " + std::to_string(members) + " members and " + std::to_string(names) + " names";
     });
+}
+
+/// Sets the members one by one, leaving those before one that fails changed.
+bool setMembersInPlace(Conversion& conversion, const std::vector<AnyReference>& sources, const AnyReference& target)
+{
+    const auto& type = as<StructTypeInterface>(target);
+    const std::vector<AnyReference> members = type.values(target.writableAddress());
+    if (members.size() != sources.size())
+        return conversion.fail([&] {
+            return std::to_string(sources.size()) + " values do not make the " + std::to_string(members.size()) +
+                   " members of " + type.name();
+        });
+    const std::vector<std::string>& names = type.elementsName();
+    for (std::size_t i = 0; i != members.size(); ++i) {
+        const auto step = [&] { return i < names.size() ? '.' + names[i] : stepTo(i); };
+        if (!conversion.runPart(sources[i], members[i], step))
+            return false;
+    }
+    return true;
 }
 
 /// Sets the named members of `target` from values of just those names.
@@ -166,7 +189,7 @@ bool listToList(Conversion& conversion, const AnyReferenceBase& source, const An
         from.forEach(source.address(), &ListCopy::append, &copy);
         return list.moveTo(conversion, target);
     }
-    const Scratch element(elementType);
+    Scratch element(elementType);
     if (!element)
         return failForDefault(conversion, *elementType);
     ListFill fill{conversion, to, list, element};
@@ -177,8 +200,8 @@ bool mapToMap(Conversion& conversion, const AnyReferenceBase& source, const AnyR
 {
     const auto& to = as<MapTypeInterface>(target);
     const Scratch map(&to);
-    const Scratch key(to.keyType());
-    const Scratch value(to.valueType());
+    Scratch key(to.keyType());
+    Scratch value(to.valueType());
     if (!map || !key || !value)
         return failForDefault(conversion, !map ? to : !key ? *to.keyType() : *to.valueType());
     MapFill fill{conversion, to, map, key, value};
@@ -188,31 +211,18 @@ bool mapToMap(Conversion& conversion, const AnyReferenceBase& source, const AnyR
 
 bool setMembers(Conversion& conversion, const std::vector<AnyReference>& sources, const AnyReference& target)
 {
-    const auto& type = as<StructTypeInterface>(target);
-    const Scratch object(&type);
-    if (!object)
-        return failForDefault(conversion, type);
-    const std::vector<AnyReference> members = type.values(object.get());
-    if (members.size() != sources.size())
-        return conversion.fail([&] {
-            return std::to_string(sources.size()) + " values do not make the " + std::to_string(members.size()) +
-                   " members of " + type.name();
-        });
-    const std::vector<std::string>& names = type.elementsName();
-    for (std::size_t i = 0; i != members.size(); ++i) {
-        const auto step = [&] { return i < names.size() ? '.' + names[i] : stepTo(i); };
-        if (!conversion.runPart(sources[i], members[i], step))
-            return false;
-    }
-    return object.moveTo(conversion, target);
+    if (conversion.isWithinScratch())
+        return setMembersInPlace(conversion, sources, target);
+    // A copy and not a default value: what is no member stays as it is.
+    const Scratch object(target);
+    return setMembersInPlace(conversion, sources, object.reference()) && object.moveTo(conversion, target);
 }
-
 bool tupleToTuple(Conversion& conversion, const AnyReferenceBase& source, const AnyReference& target)
 {
     const auto& from = as<StructTypeInterface>(source);
     const auto& to = as<StructTypeInterface>(target);
     std::vector<AnyReference> members = membersOf(source);
-    if (from.elementsName().empty() || to.elementsName().empty())
+    if (!isNamed(from) || !isNamed(to))
         return setMembers(conversion, members, target);
     if (!haveNames(conversion, from) || !haveNames(conversion, to))
         return false;
@@ -229,8 +239,8 @@ bool tupleToMap(Conversion& conversion, const AnyReferenceBase& source, const An
     if (!haveNames(conversion, from))
         return false;
     const Scratch map(&to);
-    const Scratch key(to.keyType());
-    const Scratch value(to.valueType());
+    Scratch key(to.keyType());
+    Scratch value(to.valueType());
     if (!map || !key || !value)
         return failForDefault(conversion, !map ? to : !key ? *to.keyType() : *to.valueType());
     MapFill fill{conversion, to, map, key, value};

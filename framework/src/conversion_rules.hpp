@@ -1,6 +1,7 @@
 #pragma once
 
 #include <zu/conversion.hpp>
+#include <zu/walk.hpp>
 
 #include <utility>
 
@@ -20,9 +21,9 @@ public:
     template <class Step>
     bool runPart(const AnyReferenceBase& source, const AnyReference& target, Step&& step)
     {
-        ++m_depth;
+        ++m_parts;
         const bool done = run(source, target);
-        --m_depth;
+        --m_parts;
         if (!done && m_failure)
             m_failure->path.insert(0, std::forward<Step>(step)());
         return done;
@@ -37,19 +38,29 @@ public:
         return false;
     }
 
+    /// Whether the target is a part of one that is thrown away when the conversion fails.
+    bool isWithinScratch() const noexcept { return m_parts != 0; }
+
 private:
+    bool attemptSafely(const AnyReferenceBase& source, const AnyReference& target);
     bool attempt(const AnyReferenceBase& source, const AnyReference& target);
+    bool setOptional(const AnyReferenceBase& source, const AnyReference& target);
     bool failFor(std::exception_ptr cause);
 
     ConversionFailure* m_failure;
-    int m_depth = 0;
+    Walk m_walk;
+    int m_runs = 0;
+    int m_parts = 0; ///< how many of the runs are for parts
 };
 
-/// A default value of a type, for the time of a conversion.
+/// A value of a type for the time of a conversion: a default one, or a copy.
 class Scratch
 {
 public:
     explicit Scratch(const TypeInterface* type) : m_type(type), m_value(type->initializeStorage()) {}
+    explicit Scratch(const AnyReference& original) : m_type(original.type()), m_value(m_type->clone(original.address()))
+    {
+    }
     ~Scratch()
     {
         if (m_value)
@@ -64,6 +75,9 @@ public:
 
     /// Moves the value to the target of a conversion.
     bool moveTo(Conversion& conversion, const AnyReference& target) const;
+
+    /// Makes a value that was moved from fit to be converted to again: of a tuple only the members are set.
+    bool renew(Conversion& conversion);
 
 private:
     const TypeInterface* m_type;

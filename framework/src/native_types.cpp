@@ -1,6 +1,9 @@
 #include <zu/native/dynamic.hpp>
 #include <zu/native/opaque.hpp>
+#include <zu/native/text.hpp>
 #include <zu/native/tuple.hpp>
+
+#include <stdexcept>
 
 namespace zu::detail {
 
@@ -33,11 +36,22 @@ const std::vector<std::string>& noNames()
     return names;
 }
 
+std::string_view NativeStringView::get(const void* value) const { return object(value); }
+
+bool NativeStringView::isView() const noexcept { return true; }
+
+void NativeStringView::set(void*, std::string_view) const
+{
+    throw std::logic_error("a std::string_view has no room for a text");
+}
+
 AnyReference NativeAnyValue::get(void* value) const { return object(value).reference(); }
 
 void NativeAnyValue::set(void* value, const AnyReference& source) const { object(value) = AnyValue(source); }
 
 AnyReference NativeAnyReference::get(void* value) const { return object(value); }
+
+bool NativeAnyReference::ownsContent() const noexcept { return false; }
 
 void NativeAnyReference::set(void* value, const AnyReference& source) const { object(value) = source; }
 

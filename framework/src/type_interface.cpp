@@ -55,6 +55,10 @@ bool TypeInterface::assign(void*, const void*) const { return false; }
 
 bool TypeInterface::assignMoved(void* target, void* source) const { return assign(target, source); }
 
+bool StringTypeInterface::isView() const noexcept { return false; }
+
+bool DynamicTypeInterface::ownsContent() const noexcept { return true; }
+
 void ListTypeInterface::appendMoved(void* list, void* element) const { append(list, element); }
 
 namespace detail {

@@ -37,6 +37,14 @@ struct FailingDefault
 
 using valuetest::Counted;
 
+namespace {
+
+struct Hidden
+{
+};
+
+} // namespace
+
 static_assert(std::is_nothrow_move_constructible_v<AnyValue> && std::is_nothrow_move_assignable_v<AnyValue>);
 static_assert(sizeof(AnyValue) == 24);
 
@@ -160,7 +168,8 @@ TEST(AnyValue, OfAReferenceIsACopyOfWhatItRefersTo)
     AnyValue value(AnyReference::from(text));
     text = "changed";
     EXPECT_EQ(value.toString(), "text");
-    EXPECT_NE(AnyValue::from(AnyReference::from(text)).getIf<AnyReference>(), nullptr);
+    EXPECT_EQ(AnyValue::from(AnyReference::from(text)).toString(), "changed");
+    EXPECT_TRUE(AnyValue::from(AnyReference()).isEmpty());
     EXPECT_TRUE(AnyValue(AnyReference()).isEmpty());
     EXPECT_EQ(AnyValue(AnyReference(typeOf<void>(), nullptr)).kind(), TypeKind::Void);
 }
@@ -168,11 +177,50 @@ TEST(AnyValue, OfAReferenceIsACopyOfWhatItRefersTo)
 TEST(AnyValue, HoldsAnAnyValueAsAValueOfItsOwn)
 {
     const AnyValue inner = AnyValue::from(1);
-    AnyValue outer = AnyValue::from(inner);
+    const AnyValue outer(AnyReference::from(inner));
     ASSERT_NE(outer.getIf<AnyValue>(), nullptr);
     EXPECT_EQ(outer.kind(), TypeKind::Dynamic);
     EXPECT_EQ(outer.content().kind(), TypeKind::Int);
     EXPECT_EQ(outer.toInt(), 1);
+}
+
+TEST(AnyValue, OfAnAnyValueIsACopyAndOfATemporaryTheSame)
+{
+    AnyValue first = AnyValue::from(std::string("text"));
+    const AnyValue copy = AnyValue::from(first);
+    EXPECT_EQ(copy.kind(), TypeKind::String);
+    const void* const address = first.address();
+    EXPECT_EQ(AnyValue::from(std::move(first)).address(), address);
+    EXPECT_TRUE(AnyValue::from(AnyValue()).isEmpty());
+}
+
+TEST(AnyValue, OfAnElementDoesNotFollowTheList)
+{
+    std::vector<int> list{1, 2};
+    std::vector<AnyValue> copies;
+    for (const AnyReference element : AnyReference::from(list))
+        copies.push_back(AnyValue::from(element));
+    list = {8, 9};
+    EXPECT_EQ(copies[0].toInt(), 1);
+    EXPECT_EQ(copies[1].toInt(), 2);
+}
+
+TEST(AnyValue, OfAViewOfATextHoldsTheText)
+{
+    std::string text = "text";
+    const std::string_view view = text;
+    const AnyValue given = AnyValue::from(view);
+    const AnyValue referredTo(AnyReference::from(view));
+    text = "gone";
+    EXPECT_EQ(*given.getIf<std::string>(), "text");
+    EXPECT_EQ(*referredTo.getIf<std::string>(), "text");
+}
+
+TEST(AnyValue, IsNeverOfATypeOfAnAnonymousNamespace)
+{
+    EXPECT_FALSE(AnyValue::from(1).holds<Hidden>());
+    EXPECT_EQ(AnyValue::from(1).getIf<Hidden>(), nullptr);
+    EXPECT_EQ(AnyValue::from(1).reference().getMutableIf<std::vector<Hidden>>(), nullptr);
 }
 
 TEST(AnyValue, IsWrittenThroughItsReferenceAlone)

@@ -102,9 +102,8 @@ TEST(ContainerConversion, StructsConvertToAndFromMaps)
                           .to<sample::Line>();
     EXPECT_EQ(line.name, "n");
     EXPECT_THAT(line.points, testing::ElementsAre(Point{1, 2}));
-    const std::string start = "Cannot convert std::map<int, int, std::less<int>, std::allocator<std::pair<int const, "
-                              "int> > > to ::sample::Point: ";
-    EXPECT_EQ(failureOf<Point>(std::map<int, int>{{1, 2}}), start + "a key is no member's name");
+    EXPECT_EQ(failureOf<Point>(std::map<int, int>{{1, 2}}),
+              "Cannot convert std::map<int, int> to ::sample::Point: a key is no member's name");
     EXPECT_THAT(failureOf<Point>(std::map<std::string, int>{{"x", 1}}),
                 testing::EndsWith(": there is no value for the member y"));
     EXPECT_THAT((failureOf<std::pair<int, int>>(std::map<std::string, int>{{"x", 1}})),

@@ -79,6 +79,9 @@ Buffer bytesOf(std::string_view text)
     return bytes;
 }
 
+/// An AnyValue that holds an AnyValue.
+AnyValue dynamic(const AnyValue& value) { return AnyValue(AnyReference::from(value)); }
+
 /// A value of each kind, in the order of the kinds.
 std::vector<AnyValue> valuesOfEveryKind()
 {
@@ -93,7 +96,7 @@ std::vector<AnyValue> valuesOfEveryKind()
     values.emplace_back(AnyReference::from(*sample::makeService()));
     values.push_back(AnyValue::from(&g_pointee));
     values.push_back(AnyValue::from(Point{1, 2}));
-    values.push_back(AnyValue::from(AnyValue::from(3)));
+    values.push_back(dynamic(AnyValue::from(3)));
     values.push_back(AnyValue::from(bytesOf("raw")));
     values.push_back(AnyValue::from(AnyReference::from(g_numbers).begin()));
     values.push_back(AnyValue::from(std::function<void()>()));
@@ -131,9 +134,11 @@ TEST(Conversion, EveryKindToEveryKindFollowsTheTable)
 {
     using K = TypeKind;
     const std::set<std::pair<K, K>> allowed = {
-        {K::Int, K::Int},   {K::Int, K::Float},   {K::Float, K::Int},    {K::Float, K::Float}, {K::String, K::String},
-        {K::List, K::List}, {K::Map, K::Map},     {K::Map, K::Tuple},    {K::Tuple, K::Map},   {K::Tuple, K::Tuple},
-        {K::Raw, K::Raw},   {K::Dynamic, K::Int}, {K::Dynamic, K::Float}};
+        {K::Int, K::Int},       {K::Int, K::Float},      {K::Float, K::Int},        {K::Float, K::Float},
+        {K::String, K::String}, {K::List, K::List},      {K::Map, K::Map},          {K::Map, K::Tuple},
+        {K::Tuple, K::Map},     {K::Tuple, K::Tuple},    {K::Raw, K::Raw},          {K::Dynamic, K::Int},
+        {K::Dynamic, K::Float}, {K::Int, K::Optional},   {K::Float, K::Optional},   {K::Dynamic, K::Optional},
+        {K::Optional, K::Int},  {K::Optional, K::Float}, {K::Optional, K::Optional}};
     for (const AnyValue& source : valuesOfEveryKind()) {
         for (AnyValue& target : targetsOfEveryKind()) {
             SCOPED_TRACE(source.type()->name() + " to " + target.type()->name());
@@ -184,7 +189,7 @@ TEST(Conversion, OfTheSameTypeByAnotherInterfaceIsACopy)
 
 TEST(Conversion, DynamicsGiveTheirContentAndTakeWhatTheyCan)
 {
-    EXPECT_EQ(AnyValue::from(AnyValue::from(AnyValue::from(7))).to<long>(), 7);
+    EXPECT_EQ(dynamic(dynamic(AnyValue::from(7))).to<long>(), 7);
     EXPECT_EQ(AnyValue::from(Cell{5}).to<double>(), 5.0);
     EXPECT_EQ(AnyValue::from(5).to<Cell>().number, 5);
     const auto held = AnyValue::from(Cell{5}).to<AnyValue>();

@@ -165,6 +165,23 @@ TEST(RegisteredValue, EveryMemberOfASmallRecordIsItsFieldOfThatName)
     EXPECT_EQ(web.path, "path");
 }
 
+TEST(RegisteredValue, SettingAPackageLeavesWhatIsNoMemberAsItWas)
+{
+    PackageInfo package;
+    package.setInstallOnlyAtStartup(true);
+    const AnyReference reference = AnyReference::from(package);
+    auto values = reference.to<Values>();
+    values["uuid"] = AnyValue::from("u");
+    reference.set(values);
+    EXPECT_EQ(package.uuid(), "u");
+    EXPECT_TRUE(package.installOnlyAtStartup());
+    values["uuid"] = AnyValue::from(1);
+    values["path"] = AnyValue::from("p");
+    EXPECT_FALSE(tryConvert(AnyReference::from(values), reference));
+    EXPECT_EQ(package.path(), "");
+    EXPECT_TRUE(package.installOnlyAtStartup());
+}
+
 TEST(RegisteredValue, AConstPackageIsForReadingOnly)
 {
     const PackageInfo package;

@@ -85,7 +85,8 @@ TEST(PackageInfo2, ACopyOfContentNestedWithoutEndIsRefused)
     PackageInfo2 package;
     AnyValue& value = package.contents()["deep"];
     for (int i = 0; i < 2000; ++i) {
-        AnyValue outer = AnyValue::from(std::move(value));
+        AnyValue outer(typeOf<AnyValue>());
+        outer.getIf<AnyValue>()->swap(value);
         value = std::move(outer);
     }
     EXPECT_THROW(PackageInfo2{package}, std::length_error);

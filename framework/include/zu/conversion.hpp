@@ -1,6 +1,7 @@
 #pragma once
 
 #include <zu/any_value.hpp>
+#include <zu/walk.hpp>
 
 #include <exception>
 #include <memory>
@@ -14,6 +15,9 @@
 /// | any type                     | the same type                | copied, whatever the kind                         |
 /// | anything, nothing included   | Dynamic                      | the target's own `set` (an AnyValue takes a copy) |
 /// | Dynamic                      | anything                     | its content is converted                          |
+/// | anything, nothing included   | Optional                     | converted to the type of its value; nothing       |
+/// |                              |                              | empties it                                        |
+/// | Optional                     | anything                     | its value is converted                            |
 /// | Int, Float                   | Int, Float                   | when the target's range has the number; see below |
 /// | String                       | String                       | the bytes                                         |
 /// | Raw                          | Raw                          | the bytes                                         |
@@ -29,11 +33,9 @@
 /// rounded to the nearest that it has. Infinities and NaN convert among floating-point types, never to an integer.
 ///
 /// A target is changed as a whole or, when the conversion fails, not at all. Values nested deeper than k_maxNesting are
-/// refused. What runs out of memory throws std::bad_alloc.
+/// refused, and so are those that refer to parts of themselves in very many ways (see walk.hpp). What runs out of memory
+/// throws std::bad_alloc.
 namespace zu {
-
-/// How deep conversion goes into nested values; visitors that recurse are well advised to stop there too.
-inline constexpr int k_maxNesting = 64;
 
 /// Why a conversion failed, and where.
 struct ZU_EXPORT ConversionFailure

@@ -11,7 +11,7 @@ namespace zu {
 
 /// The interface of a public class whose data stand in a private record, itself a registered struct: it has a class
 /// name of its own, and every question about members goes to the record's interface. Copying and destroying are those
-/// of the public class.
+/// of the public class; assigning is that of the record, which stays the object's own.
 ///
 /// The record's interface is looked up on first use, so that the two may be registered in any order.
 template <class Public, class Private>
@@ -31,12 +31,21 @@ public:
     const std::vector<std::string>& elementsName() const override { return recordType().elementsName(); }
     std::vector<const TypeInterface*> memberTypes() const override { return recordType().memberTypes(); }
 
-    /// Throws std::runtime_error, like values(), when the object has no record.
+    /// Throws std::runtime_error, like everything that needs the record, when the object has none.
     AnyReference element(void* object, std::size_t index) const override
     {
         return recordType().element(recordIn(object), index);
     }
     std::vector<AnyReference> values(void* object) const override { return recordType().values(recordIn(object)); }
+
+    bool assign(void* target, const void* source) const override
+    {
+        return recordType().assign(recordIn(target), recordIn(const_cast<void*>(source)));
+    }
+    bool assignMoved(void* target, void* source) const override
+    {
+        return recordType().assignMoved(recordIn(target), recordIn(source));
+    }
 
 private:
     static const StructTypeInterface& recordType()

@@ -32,8 +32,10 @@ inline zu::AnyValue make(const std::string& what)
         return zu::AnyValue::from(Map{{"k", {zu::AnyValue::from(1), zu::AnyValue::from("b")}}});
     if (what == "reading")
         return zu::AnyValue::from(Reading{"thermometer", {20.5, 21.0}});
-    if (what == "dynamic")
-        return zu::AnyValue::from(zu::AnyValue::from(Reading{"nested", {}}));
+    if (what == "dynamic") {
+        const zu::AnyValue nested = zu::AnyValue::from(Reading{"nested", {}});
+        return zu::AnyValue(zu::AnyReference::from(nested));
+    }
     throw std::invalid_argument(what);
 }
 

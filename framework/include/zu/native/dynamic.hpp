@@ -22,6 +22,7 @@ class ZU_EXPORT NativeAnyReference final : public Native<AnyReference, DynamicTy
 public:
     AnyReference get(void* value) const override;
     void set(void* value, const AnyReference& source) const override;
+    bool ownsContent() const noexcept override;
 };
 
 } // namespace detail

@@ -64,6 +64,7 @@ class NativeHandle final : public Native<Object<T>, DynamicTypeInterface>
 public:
     AnyReference get(void* value) const override { return this->object(value).reference(); }
     void set(void* value, const AnyReference& source) const override { setHandle(this->object(value), source); }
+    bool ownsContent() const noexcept override { return false; }
 
 private:
     /// Only another handle says who owns the object.

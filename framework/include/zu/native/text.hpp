@@ -23,6 +23,16 @@ public:
     void set(void* value, std::string_view text) const override { object(value).assign(text.data(), text.size()); }
 };
 
+class ZU_EXPORT NativeStringView final : public Native<std::string_view, StringTypeInterface>
+{
+public:
+    std::string_view get(const void* value) const override;
+    bool isView() const noexcept override;
+
+    /// Throws std::logic_error: there is nowhere to keep the text.
+    void set(void* value, std::string_view text) const override;
+};
+
 class NativeBuffer final : public Native<Buffer, RawTypeInterface>
 {
 public:
@@ -42,6 +52,10 @@ public:
 
 template <>
 struct NativeType<std::string> : detail::MadeAs<detail::NativeString>
+{
+};
+template <>
+struct NativeType<std::string_view> : detail::MadeAs<detail::NativeStringView>
 {
 };
 template <>

@@ -17,6 +17,9 @@ public:
     /// was. `source` may refer to a part of `value`.
     virtual void set(void* value, const AnyReference& source) const = 0;
 
+    /// Whether the content lies in `value` alone; false for types whose values refer to what others may refer to, too.
+    virtual bool ownsContent() const noexcept;
+
 protected:
     explicit DynamicTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : TypeInterface(info, TypeKind::Dynamic, wordSize)

@@ -15,6 +15,9 @@ public:
     /// The value, an empty reference when it is absent.
     virtual AnyReference value(void* optional) const = 0;
 
+    /// Makes `value`, one of valueType(), the value; it may be left moved from.
+    virtual void setMoved(void* optional, void* value) const = 0;
+
     virtual void reset(void* optional) const = 0;
 
 protected:

@@ -38,12 +38,12 @@ public:
     /// Whether references to parts of the value can be written through.
     bool isReadOnly() const noexcept { return (m_tagged & k_readOnly) != 0; }
 
-    /// Whether the value is exactly of type T, as told by TypeInfo.
+    /// Whether the value is exactly of type T, as told by TypeInfo. No value is of a type of an anonymous namespace.
     template <class T>
     bool holds() const
     {
-        const TypeInterface* wanted = typeOf<T>();
-        return type() == wanted || (!isEmpty() && type()->info() == wanted->info());
+        using Native = std::remove_cv_t<std::remove_reference_t<T>>;
+        return !isEmpty() && (type() == detail::typeSlot<Native>.ready() || isOf(TypeInfo::of<Native>()));
     }
 
     /// The address of the value when it is exactly of type T; else null.
@@ -85,6 +85,9 @@ public:
     /// What is held by a dynamic, a pointer or an optional; empty when it holds nothing. Takes one step: the content
     /// may be such a value itself.
     AnyReference content() const;
+
+private:
+    bool isOf(const TypeInfo& info) const { return type()->info() == info && !info.isAnonymous(); }
 
 protected:
     static constexpr std::uintptr_t k_readOnly = 1;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstring>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace zu {
@@ -44,8 +45,10 @@ public:
     }
     ~AnyValue() { clear(); }
 
-    /// Holds a copy of `object` (what it was moved into, for a temporary), of exactly its declared type. A C string and
-    /// a literal are held as std::string; a null C string throws std::invalid_argument.
+    /// Holds a copy of `object` (what it was moved into, for a temporary), of exactly its declared type, but for those
+    /// that would refer to something else: of an AnyReference it is the value referred to that is copied; a C string, a
+    /// literal and a std::string_view are held as std::string; a null C string throws std::invalid_argument. Of an
+    /// AnyValue it is a copy, and not one that holds an AnyValue. (One that does is made of a reference to the AnyValue.)
     template <class T>
     static AnyValue from(T&& object);
 
@@ -132,8 +135,14 @@ template <class T>
 AnyValue AnyValue::from(T&& object)
 {
     using Held = std::remove_cv_t<std::remove_reference_t<T>>;
-    if constexpr (detail::isCString<Held>) {
+    if constexpr (std::is_same_v<Held, AnyValue>) {
+        return AnyValue(std::forward<T>(object));
+    } else if constexpr (std::is_base_of_v<AnyReferenceBase, Held>) {
+        return AnyValue(static_cast<const AnyReferenceBase&>(object));
+    } else if constexpr (detail::isCString<Held>) {
         return from(detail::textOf(object));
+    } else if constexpr (std::is_same_v<Held, std::string_view>) {
+        return from(std::string(object));
     } else {
         static_assert(!std::is_array_v<Held>, "an array has no type interface; give a std::vector");
         AnyValue value;
