@@ -3,9 +3,9 @@
 #include "variant/vxarrays.hpp"
 #include "variant/vxfailure.hpp"
 
-#include <zu/conversion.hpp>
 #include <zu/dispatch.hpp>
 #include <zu/native/object.hpp>
+#include <zu/walk.hpp>
 
 namespace VX {
 
@@ -22,7 +22,16 @@ constexpr std::size_t k_spareBytes = 1024;
 class Converter : public zu::TypeVisitor
 {
 public:
-    explicit Converter(int depth) : m_depth(depth) {}
+    explicit Converter(zu::Walk& walk) : m_walk(walk) {}
+
+    VXValue convert(const zu::AnyReferenceBase& source)
+    {
+        const zu::Walk::Step step(m_walk, source);
+        if (!step)
+            refuse(step.refusal(), __LINE__);
+        zu::dispatch(source, *this);
+        return std::move(result);
+    }
 
     VXValue result;
 
@@ -44,8 +53,10 @@ public:
     void visitMap(const zu::AnyReference& map) override
     {
         std::vector<VXValue> entries;
-        for (const zu::AnyReference entry : map)
-            entries.push_back(pairOf(part(entry._element(0)), part(entry._element(1))));
+        for (const zu::AnyReference entry : map) {
+            VXValue key = part(entry._element(0)); // before the value, whatever order the compiler prefers
+            entries.push_back(pairOf(std::move(key), part(entry._element(1))));
+        }
         result = VXValue::fromElements(std::move(entries));
     }
 
@@ -53,7 +64,7 @@ public:
 
     void visitPointer(zu::PointerKind kind, const zu::AnyReference& pointee) override
     {
-        if (kind == zu::PointerKind::Shared && pointee.kind() == zu::TypeKind::Object)
+        if (kind == zu::PointerKind::Shared && pointee.kind() == zu::TypeKind::Object) // a null pointer has no object
             refuseObject();
         refuse("pointer type not handled", __LINE__);
     }
@@ -74,9 +85,7 @@ public:
     {
         if (dynamic.holds<zu::Object<zu::Empty>>())
             refuseObject();
-        // Not counted as a level, for every element of a dynamic list is one; unless dynamics hold each other.
-        const zu::AnyReference content = dynamic.content();
-        result = convertedFrom(content, content.kind() == zu::TypeKind::Dynamic ? m_depth + 1 : m_depth);
+        result = part(dynamic.content());
     }
 
     void visitRaw(std::string_view bytes) override
@@ -94,7 +103,7 @@ public:
 private:
     [[noreturn]] static void refuseObject() { refuse("object type not handled", __LINE__); }
 
-    VXValue part(const zu::AnyReferenceBase& source) const { return convertedFrom(source, m_depth + 1); }
+    VXValue part(const zu::AnyReferenceBase& source) const { return Converter(m_walk).convert(source); }
 
     void convertElements(const zu::AnyReference& list)
     {
@@ -104,18 +113,15 @@ private:
         result = VXValue::fromElements(std::move(elements));
     }
 
-    const int m_depth;
+    zu::Walk& m_walk;
 };
 
 } // namespace
 
-VXValue convertedFrom(const zu::AnyReferenceBase& source, int depth)
+VXValue convertedFrom(const zu::AnyReferenceBase& source)
 {
-    if (depth > zu::k_maxNesting)
-        refuse("value nested deeper than " + std::to_string(zu::k_maxNesting) + " levels", __LINE__);
-    Converter converter(depth);
-    zu::dispatch(source, converter);
-    return std::move(converter.result);
+    zu::Walk walk;
+    return Converter(walk).convert(source);
 }
 
 } // namespace VX

@@ -1,10 +1,7 @@
 #include "support/captured_log.hpp"
-
-#include <zupackage/vxvalue.hpp>
+#include "variant/vxconversion.hpp"
 
 #include <zu/any_value.hpp>
-#include <zu/conversion.hpp>
-#include <zu/native/native_types.hpp>
 
 #include <boost/make_shared.hpp>
 #include <gmock/gmock.h>
@@ -75,39 +72,16 @@ class LaterType final : public zu::Native<Stranger, LaterKind<number>>
 
 namespace {
 
+using test::conversionError;
+using test::converted;
+using test::refusal;
+using test::shown;
 using zu::test::CapturedLog;
 using zu::test::LogLine;
 
 [[maybe_unused]] const bool g_placeRegistered =
     zu::registerStruct<Place>("::test::Place", {{"name", &Place::name}, {"floor", &Place::floor}});
 [[maybe_unused]] const bool g_motorRegistered = zu::registerObject<Motor>();
-
-template <class T>
-VXValue converted(const T& value)
-{
-    return zu::AnyReference::from(value).template to<VXValue>();
-}
-
-/// The short dump of what a value becomes.
-template <class T>
-std::string shown(const T& value)
-{
-    return converted(value).dump(1);
-}
-
-/// The message with which a value is refused.
-template <class T>
-std::string refusal(const T& value)
-{
-    try {
-        converted(value);
-    } catch (const VXError& error) {
-        return error.what();
-    }
-    return "not refused";
-}
-
-std::string conversionError(const std::string& message) { return "\tVXValue::conversion\n\t" + message; }
 
 void expectDispatcherWarning(const LogLine& line, const std::string& message)
 {
@@ -281,31 +255,6 @@ TEST(VXConversion, AKindThatIsInNoTableBecomesInvalidSilently)
         EXPECT_EQ(value.type(), VXValue::Type::Invalid) << int(type->kind());
     }
     EXPECT_TRUE(log.lines().empty());
-}
-
-TEST(VXConversion, ValuesNestedTooDeepAreRefused)
-{
-    const auto nested = [](int levels) {
-        zu::AnyValue value = zu::AnyValue::from(1);
-        for (int i = 0; i < levels; ++i)
-            value = zu::AnyValue::from(std::vector<zu::AnyValue>{value});
-        return value;
-    };
-    EXPECT_EQ(shown(nested(10)), "[[[[[[[[[[1]]]]]]]]]]");
-    EXPECT_EQ(shown(nested(64)), std::string(64, '[') + "1" + std::string(64, ']'));
-    EXPECT_EQ(refusal(nested(65)), conversionError("value nested deeper than 64 levels"));
-}
-
-TEST(VXConversion, DynamicsThatHoldDynamicsAreLevels)
-{
-    const auto nested = [](int levels) {
-        zu::AnyValue value = zu::AnyValue::from(1);
-        for (int i = 0; i < levels; ++i)
-            value = zu::AnyValue::from(zu::AnyValue(value));
-        return value;
-    };
-    EXPECT_EQ(shown(nested(64)), "1");
-    EXPECT_EQ(refusal(nested(65)), conversionError("value nested deeper than 64 levels"));
 }
 
 } // namespace VX
