@@ -114,7 +114,7 @@ TEST(HostileDocument, EachSmallOneHasItsOutcome)
 TEST(HostileDocument, WhatIsNoRegularFileIsReadAsFarAsItGoes)
 {
     const test::TemporaryFolder folder;
-    const auto open = [&folder](const std::string& path) { return "Could not open " + path + " for reading\n"; };
+    const auto open = [](const std::string& path) { return "Could not open " + path + " for reading\n"; };
     const std::string folderPath = folder.path().string();
     EXPECT_EQ(read("file", "main", folderPath, 0), open(folderPath));
     EXPECT_EQ(read("file", "main", folderPath + "/missing", 0), open(folderPath + "/missing"));
