@@ -174,13 +174,19 @@ void removeForgotten(QDomElement root)
     }
 }
 
+std::string linesOf(const CapturedLog& log)
+{
+    std::ostringstream out;
+    for (const LogLine& line : log.lines())
+        out << line << '\n';
+    return out.str();
+}
+
 /// What reading a document left behind, as a text.
 std::string outcome(const PackageInfo& package, const CapturedLog& log)
 {
     std::ostringstream out;
-    out << describe(package) << package.installOnlyAtStartup() << "\nLog:\n";
-    for (const LogLine& line : log.lines())
-        out << line << '\n';
+    out << describe(package) << package.installOnlyAtStartup() << "\nLog:\n" << linesOf(log);
     return out.str();
 }
 
@@ -246,14 +252,10 @@ std::string expectedOfValueModel(const std::string& path)
     if (document.setContent(&file, &failure.message, &failure.line, &failure.column)) {
         // The warnings of a section that is forgotten are not.
         packageFrom(document.documentElement());
-        const std::vector<LogLine> warnings = log.lines();
+        const std::string warnings = linesOf(log);
         const CapturedLog ignored;
         removeForgotten(document.documentElement());
-        std::ostringstream out;
-        out << describe(packageFrom(document.documentElement())) << "Log:\n";
-        for (const LogLine& line : warnings)
-            out << line << '\n';
-        return out.str();
+        return describe(packageFrom(document.documentElement())) + "Log:\n" + warnings;
     }
     const LogLine line{log::Level::Error, "zu.package.info", "src/package_info", "zu::loadManifest",
                        "Syntax error in " + path + ":" + std::to_string(failure.line) + ":" +
