@@ -274,9 +274,7 @@ std::string readIntoValueModel(const std::string& path)
     } catch (const std::runtime_error& error) {
         out << error.what() << '\n';
     }
-    for (const LogLine& line : log.lines())
-        out << line << '\n';
-    return out.str();
+    return out.str() + linesOf(log);
 }
 
 std::string difference(const std::string& what, const std::string& read, const std::string& expected)
