@@ -59,12 +59,13 @@ private:
 /// of one value must take turns.
 class ZUPACKAGE_EXPORT VXValue
 {
+public:
+    // For the templates below alone. Public because Clang 14 denies a friend's template arguments what the friend may use.
     template <class T>
     static constexpr bool isFlag = std::is_same_v<T, bool> || std::is_same_v<T, std::vector<bool>::reference>;
     template <class T>
     static constexpr bool becomesVariant = !std::is_same_v<T, VXValue> && std::is_convertible_v<const T&, VXValue>;
 
-public:
     /// The kind of a value. The numbers are part of the interface.
     enum class Type : std::uint32_t
     {

@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-[[noreturn]] void fail(const QString& reason) { throw std::runtime_error(reason.toStdString()); }
+[[noreturn]] void fail(const QString& reason) { throw std::runtime_error(xml::toUtf8(reason)); }
 [[noreturn]] void fail(std::errc reason) { throw std::runtime_error(std::make_error_code(reason).message()); }
 
 /// What a chain of symbolic links leads to, which need not exist.

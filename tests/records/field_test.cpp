@@ -33,10 +33,14 @@ struct Anything
     operator Value() const; // NOLINT(google-explicit-constructor): that is what it is for
 };
 
+// Too few values is what is asked about.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wmissing-field-initializers"
 template <class Record, class... Values>
 auto isMadeOf(int) -> decltype(Record{std::declval<Values>()...}, std::true_type());
 template <class Record, class... Values>
 std::false_type isMadeOf(long);
+#pragma GCC diagnostic pop
 
 /// How many fields a plain structure has.
 template <class Record, class... Values>
