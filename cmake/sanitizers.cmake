@@ -1,0 +1,3 @@
+# A toolchain file: GCC's AddressSanitizer and UndefinedBehaviorSanitizer, and the checks of the standard library.
+set(CMAKE_CXX_FLAGS_INIT "-fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all \
+-fno-omit-frame-pointer -D_GLIBCXX_ASSERTIONS")
