@@ -16,12 +16,33 @@ class PrintedTexts
 public:
     explicit PrintedTexts(const zu::PackageInfo& package)
     {
-        add({"UUID: ", package.uuid(), "\n", "Version: ", package.version(), "\n", "Type Version: ", "\n",
-             "Install Only At Startup: ", "0", "\n", "Author: ", "\n", "Organization: ", "\n", "Date: ", "\n",
-             "Channel: ", "\n", "Path: ", "\n", "Names: ", "\n"});
+        add({"UUID: ",
+             package.uuid(),
+             "\n",
+             "Version: ",
+             package.version(),
+             "\n",
+             "Type Version: ",
+             "\n",
+             "Install Only At Startup: ",
+             "0",
+             "\n",
+             "Author: ",
+             "\n",
+             "Organization: ",
+             "\n",
+             "Date: ",
+             "\n",
+             "Channel: ",
+             "\n",
+             "Path: ",
+             "\n",
+             "Names: ",
+             "\n"});
         addByKey(package.names());
-        add({"Descriptions:", "\n", "Supported Languages:", "\n", "Robotic requirements:", "\n", "Software requirements:",
-             "\n", "Languages", "\n", "*********", "\n", "Behaviors", "\n", "*********", "\n"});
+        add({"Descriptions:", "\n", "Supported Languages:", "\n", "Robotic requirements:", "\n",
+             "Software requirements:", "\n", "Languages", "\n", "*********", "\n", "Behaviors", "\n", "*********",
+             "\n"});
         for (const zu::BehaviorInfo& behavior : package.behaviors())
             addBehavior(behavior);
         add({"Dialogs", "\n", "*******", "\n"});

@@ -218,8 +218,8 @@ void appendBytes(benchmark::State& state)
 }
 BENCHMARK(appendBytes)->Name("type error of 1 MiB/its bytes appended");
 
-// Growth has no target here: 1,000 behaviors leave the caches that 100 fit into, so that any tree grows by more than ten
-// times. `growth`, which counts instructions, has one.
+// Growth has no target here: 1,000 behaviors leave the caches that 100 fit into, so that any tree grows by more than
+// ten times. `growth`, which counts instructions, has one.
 std::vector<bench::Target> targets()
 {
     return {{"encode/VXValue", "encode/json", 1.0},

@@ -1,5 +1,5 @@
-// Any package, written, read and written again: what was written can be read, and soon nothing changes any more. Reading
-// drops white space first, then writing the texts that are empty now, then their containers.
+// Any package, written, read and written again: what was written can be read, and soon nothing changes any more.
+// Reading drops white space first, then writing the texts that are empty now, then their containers.
 #include "support/generated_packages.hpp"
 #include "target.hpp"
 

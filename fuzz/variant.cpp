@@ -1,4 +1,5 @@
-// Any variant, decoded as a package: it throws the variant's error, or what it gives encodes, decodes and prints the same.
+// Any variant, decoded as a package: it throws the variant's error, or what it gives encodes, decodes and prints the
+// same.
 #include "support/generated_packages.hpp"
 #include "variants.hpp"
 

@@ -1,4 +1,5 @@
-# How the project's libraries and programs are compiled. Stands in the framework's folder because the framework builds alone.
+# How the project's libraries and programs are compiled. Stands in the framework's folder because the framework builds
+# alone.
 
 include(GNUInstallDirs)
 include(GenerateExportHeader)
@@ -86,7 +87,8 @@ endfunction()
 # follows.
 function(zu_compile_headers_alone library folder)
     cmake_parse_arguments(arg "" "WITH" "HEADERS" ${ARGN})
-    file(GLOB_RECURSE headers RELATIVE ${PROJECT_SOURCE_DIR}/include/${folder} ${PROJECT_SOURCE_DIR}/include/${folder}/*.hpp)
+    file(GLOB_RECURSE headers
+        RELATIVE ${PROJECT_SOURCE_DIR}/include/${folder} ${PROJECT_SOURCE_DIR}/include/${folder}/*.hpp)
     foreach(header IN LISTS headers)
         string(REPLACE ".hpp" "" name ${header})
         set(text "#include <${folder}/${header}>\n#include <${folder}/${header}>\n")

@@ -154,8 +154,8 @@ public:
     /// empty list nothing. Conditions and permissions stay.
     void trimExtraInfo(std::list<std::string> descriptionLanguages, std::list<std::string> supportedLanguages);
 
-    /// Encodes the behavior for the older remote-call layer: 11 pairs of a key and a value, in a fixed order. `value` must
-    /// be Invalid or an Array, else VX::VXError is thrown; it is replaced as a whole.
+    /// Encodes the behavior for the older remote-call layer: 11 pairs of a key and a value, in a fixed order. `value`
+    /// must be Invalid or an Array, else VX::VXError is thrown; it is replaced as a whole.
     void toVXValue(VX::VXValue& value) const;
 
 private:

@@ -35,8 +35,8 @@ public:
     DialogInfo();
     DialogInfo(const DialogInfo& other);
     /// Decodes what toVXValue() encodes, by position. A value that is no Array of exactly three elements gives an empty
-    /// dialog; what is wrong inside one throws VX::VXError. A Binary in `value` that is read as a text becomes a String, see
-    /// VX::VXValue.
+    /// dialog; what is wrong inside one throws VX::VXError. A Binary in `value` that is read as a text becomes a
+    /// String, see VX::VXValue.
     DialogInfo(const VX::VXValue& value); // NOLINT(google-explicit-constructor): callers are used to it
     ~DialogInfo();
 

@@ -28,8 +28,8 @@ public:
     LanguageInfo();
     LanguageInfo(const LanguageInfo& other);
     /// Decodes what toVXValue() encodes, by position. The shape is not looked at first: a value that is no Array, or
-    /// has less than five pairs, throws VX::VXError; further pairs are ignored. A Binary in `value` that is read as a text
-    /// becomes a String, see VX::VXValue.
+    /// has less than five pairs, throws VX::VXError; further pairs are ignored. A Binary in `value` that is read as a
+    /// text becomes a String, see VX::VXValue.
     LanguageInfo(const VX::VXValue& value); // NOLINT(google-explicit-constructor): callers are used to it
     ~LanguageInfo();
 

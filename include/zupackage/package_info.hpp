@@ -101,8 +101,8 @@ public:
     PackageInfo(const VX::VXValue& value); // NOLINT(google-explicit-constructor): callers are used to it
     /// The same package in the list-based model. The values in `package.elements` are converted where they are of other
     /// types, and what is absent stays empty. descriptionLanguages() is empty, web content and unknown keys are left
-    /// out, and a language that is supported twice is there once. Throws ConversionError when one of the values does not
-    /// convert, an empty AnyValue included.
+    /// out, and a language that is supported twice is there once. Throws ConversionError when one of the values does
+    /// not convert, an empty AnyValue included.
     PackageInfo(const PackageInfo2& package); // NOLINT(google-explicit-constructor): callers are used to it
     ~PackageInfo();
 
@@ -223,11 +223,12 @@ public:
     /// and list entries are appended. installer() and path() are never touched. The root may have any name; unknown
     /// elements and attributes are ignored.
     ///
-    /// Refused are documents that are not well-formed, and documents that only an attack has: of over 64 MiB, of over 256
-    /// levels of elements (or of groups in a content model), with entities that expand to over 8 MiB; and documents out of
-    /// proportion to their size, whose names the parser would compare for longer than it reads them, or whose nodes and
-    /// attributes would take over 128 MiB and 16 bytes (behind a document type 24) for each of theirs. Whatever is read
-    /// can also be printed, written, encoded, copied and destroyed on a thread with a stack of 512 KiB.
+    /// Refused are documents that are not well-formed, and documents that only an attack has: of over 64 MiB, of over
+    /// 256 levels of elements (or of groups in a content model), with entities that expand to over 8 MiB; and documents
+    /// out of proportion to their size, whose names the parser would compare for longer than it reads them, or whose
+    /// nodes and attributes would take over 128 MiB and 16 bytes (behind a document type 24) for each of theirs.
+    /// Whatever is read can also be printed, written, encoded, copied and destroyed on a thread with a stack of 512
+    /// KiB.
     ///
     /// @return false when the document cannot be opened or is refused. An error with the reason is then written to the
     /// log category "zupackage", and the object is as it was.
@@ -265,9 +266,9 @@ public:
     bool saveToManifestFile(const std::string& path) const;
     /// @}
 
-    /// Encodes the package for the older remote-call layer: 20 pairs of a key and a value, in a fixed order; an empty Array
-    /// when uuid() is empty. installOnlyAtStartup() is not carried. `value` must be Invalid or an Array, else VX::VXError
-    /// is thrown; it is replaced as a whole. Not const: existing callers are built against this signature.
+    /// Encodes the package for the older remote-call layer: 20 pairs of a key and a value, in a fixed order; an empty
+    /// Array when uuid() is empty. installOnlyAtStartup() is not carried. `value` must be Invalid or an Array, else
+    /// VX::VXError is thrown; it is replaced as a whole. Not const: existing callers are built against this signature.
     void toVXValue(VX::VXValue& value);
 
 private:
@@ -275,15 +276,16 @@ private:
     const std::unique_ptr<PackageInfoPrivate> m_p;
 };
 
-/// Replaces the manifest file of that name, in UTF-8, as a whole: with what PackageInfo::saveToManifestFile() writes, or
-/// not at all. The new content stands in a file beside the old one until it is complete and on the disk, and takes its
-/// place then; when the process ends before that, the old file is as it was, and the new one may be left beside it. The
-/// file keeps its permissions and, where the process may set it, its owner; one that was not there has what new files
-/// have. Of a symbolic link the file it leads to is replaced, or made when there is none. Nothing is logged. May run on
-/// several threads at once.
+/// Replaces the manifest file of that name, in UTF-8, as a whole: with what PackageInfo::saveToManifestFile() writes,
+/// or not at all. The new content stands in a file beside the old one until it is complete and on the disk, and takes
+/// its place then; when the process ends before that, the old file is as it was, and the new one may be left beside it.
+/// The file keeps its permissions and, where the process may set it, its owner; one that was not there has what new
+/// files have. Of a symbolic link the file it leads to is replaced, or made when there is none. Nothing is logged. May
+/// run on several threads at once.
 ///
-/// Throws std::runtime_error "Could not write PATH: REASON", and the old file is as it was, when there is no space, when
-/// the folder or the file may not be written, and when what has the name is no regular file: a device, a pipe, a folder.
+/// Throws std::runtime_error "Could not write PATH: REASON", and the old file is as it was, when there is no space,
+/// when the folder or the file may not be written, and when what has the name is no regular file: a device, a pipe, a
+/// folder.
 ZUPACKAGE_EXPORT void saveManifest(const PackageInfo& package, const std::string& path);
 
 /// Prints the package for people, an item a line, flushed line by line. Flags print as 1 or 0,

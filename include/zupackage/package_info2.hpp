@@ -25,8 +25,8 @@ struct ZUPACKAGE_EXPORT NativeType<WebInfo>
 };
 
 /// The description of one application package as a plain value with open contents: what has no field of its own stands
-/// in maps of dynamic values, so that new kinds of content can be carried without a change of this class. loadManifest()
-/// makes one; PackageInfo has a constructor that turns it into the list-based model.
+/// in maps of dynamic values, so that new kinds of content can be carried without a change of this class.
+/// loadManifest() makes one; PackageInfo has a constructor that turns it into the list-based model.
 ///
 /// What the library keeps in `elements`, each value of exactly this type:
 ///
@@ -44,9 +44,9 @@ struct ZUPACKAGE_EXPORT NativeType<WebInfo>
 /// std::vector<LanguageInfo>; "web", WebInfo. Any other key may stand beside these; the library leaves it alone.
 ///
 /// Texts are UTF-8. A record owns its content: a copy is deep (values nested deeper than AnyValue copies throw
-/// std::length_error), a moved-from record has unspecified content and can be assigned. Not synchronised: one object may
-/// be read by several threads while none writes it (for behaviors, see BehaviorInfo); the accessors that are not const
-/// count as writing.
+/// std::length_error), a moved-from record has unspecified content and can be assigned. Not synchronised: one object
+/// may be read by several threads while none writes it (for behaviors, see BehaviorInfo); the accessors that are not
+/// const count as writing.
 struct ZUPACKAGE_EXPORT PackageInfo2
 {
     /// With empty texts and without elements, not for installation at start-up only.
@@ -99,16 +99,16 @@ struct ZUPACKAGE_EXPORT PackageInfo2
     std::map<std::string, AnyValue> elements;
 };
 
-/// Reads a manifest file, whose name is `path` in UTF-8, with the limits of PackageInfo::loadFromManifestFile(); the root
-/// element may have any name, and unknown elements and attributes are ignored.
+/// Reads a manifest file, whose name is `path` in UTF-8, with the limits of PackageInfo::loadFromManifestFile(); the
+/// root element may have any name, and unknown elements and attributes are ignored.
 ///
 /// Nothing is required: a missing attribute is an empty text, a missing flag false. Of an environment variable that is
 /// there twice in one service the first value stays, with a warning to the category "zu.package.info".
 ///
 /// `elements` holds a key for each section that the document has, empty or not; of a section that is there twice, the
 /// later one. The contents map has "behaviors", "dialogs" and "languages" only where there are any; the later of two
-/// web contents is kept. `installer` and `path` stay empty. Languages are kept as often as they are listed; the document's
-/// description languages are not read.
+/// web contents is kept. `installer` and `path` stay empty. Languages are kept as often as they are listed; the
+/// document's description languages are not read.
 ///
 /// May run on several threads at once.
 ///

@@ -42,25 +42,26 @@ private:
     explicit VXError(const std::string& text);
 };
 
-/// Holds one of eight kinds of value; an Array holds further values. It owns what it holds: a copy copies the whole tree,
-/// a moved-from value is Invalid. Copying, destroying and dumping take any depth.
+/// Holds one of eight kinds of value; an Array holds further values. It owns what it holds: a copy copies the whole
+/// tree, a moved-from value is Invalid. Copying, destroying and dumping take any depth.
 ///
 /// Typed access is guarded by assertions, which throw VXError and leave the value as it was. Two of their rules are
-/// lenient, and callers of the old layer rely on that: xAssertType() fails for nobody who asks for an Int and for no Float.
-/// Whatever then wants to use a Float as something else throws all the same.
+/// lenient, and callers of the old layer rely on that: xAssertType() fails for nobody who asks for an Int and for no
+/// Float. Whatever then wants to use a Float as something else throws all the same.
 ///
-/// An Object that xAssertCompatibleType() makes has no bytes at all: size(), the conversion to bool, and copying it or what
-/// it is in throw VXError.
+/// An Object that xAssertCompatibleType() makes has no bytes at all: size(), the conversion to bool, and copying it or
+/// what it is in throw VXError.
 ///
-/// Of the types that values convert to by themselves, there are the flag and the text. Another arithmetic type would be made
-/// of the flag (an Int of 42 would be 1), so that those conversions do not compile; numbers are read by name.
+/// Of the types that values convert to by themselves, there are the flag and the text. Another arithmetic type would be
+/// made of the flag (an Int of 42 would be 1), so that those conversions do not compile; numbers are read by name.
 ///
-/// Not synchronised. Reading a Binary as a string changes the value even through a const reference, so that even readers
-/// of one value must take turns.
+/// Not synchronised. Reading a Binary as a string changes the value even through a const reference, so that even
+/// readers of one value must take turns.
 class ZUPACKAGE_EXPORT VXValue
 {
 public:
-    // For the templates below alone. Public because Clang 14 denies a friend's template arguments what the friend may use.
+    // For the templates below alone. Public because Clang 14 denies a friend's template arguments what the friend may
+    // use.
     template <class T>
     static constexpr bool isFlag = std::is_same_v<T, bool> || std::is_same_v<T, std::vector<bool>::reference>;
     template <class T>
@@ -135,8 +136,8 @@ public:
 
     Type type() const noexcept { return m_type; }
 
-    /// The name of a type: "Invalid", "Array", "Bool", "Int", "Float", "String", "Object", "Binary". Throws for a number that
-    /// is none.
+    /// The name of a type: "Invalid", "Array", "Bool", "Int", "Float", "String", "Object", "Binary". Throws for a
+    /// number that is none.
     static std::string TypeToString(Type type);
 
     /// Makes an Invalid value an empty Array with room for 32 elements; then gives the Array `size` elements, new ones
@@ -146,9 +147,9 @@ public:
     /// The elements of an Array, the characters of a String, the bytes of a Binary or Object; 0 for the other types.
     int size() const;
 
-    /// An element. The array never grows here: give it its size first. Throws VXError for a value of another type and when
-    /// the array is too short, std::out_of_range for a negative index. Unless it is const, an Invalid value first becomes
-    /// an empty Array, which is too short, and stays one.
+    /// An element. The array never grows here: give it its size first. Throws VXError for a value of another type and
+    /// when the array is too short, std::out_of_range for a negative index. Unless it is const, an Invalid value first
+    /// becomes an empty Array, which is too short, and stays one.
     VXValue& operator[](int index)
     {
         if (!hasElement(index))
@@ -162,7 +163,8 @@ public:
         return (*m_value.array)[static_cast<std::size_t>(index)];
     }
 
-    /// Whether an Array, String, Binary or Object is not empty, an Int or Float not zero, a Bool set. Throws for Invalid.
+    /// Whether an Array, String, Binary or Object is not empty, an Int or Float not zero, a Bool set. Throws for
+    /// Invalid.
     operator bool() const; // NOLINT(google-explicit-constructor)
 
     /// Does not compile: the number would be made of the flag. There are toInt() and toFloat().
@@ -179,8 +181,8 @@ public:
     const TVXValueBytes& toBinary() const;
     /// @}
 
-    /// Equal when both are of the same type and hold the same: by the number, byte by byte, element by element. A Float that
-    /// is no number equals nothing. Of any depth, like copying.
+    /// Equal when both are of the same type and hold the same: by the number, byte by byte, element by element. A Float
+    /// that is no number equals nothing. Of any depth, like copying.
     friend bool operator==(const VXValue& left, const VXValue& right) { return left.equals(right); }
     friend bool operator!=(const VXValue& left, const VXValue& right) { return !left.equals(right); }
 
@@ -208,17 +210,17 @@ public:
 
     /// The text of a String; throws for other types.
     ///
-    /// A Binary of less than 100,000 bytes *becomes* a String first, with a warning on standard output: of its bytes and a
-    /// zero behind them that counts as a character. Peers that send texts as Binary are read so, and the callers of the
-    /// old layer know the zero.
+    /// A Binary of less than 100,000 bytes *becomes* a String first, with a warning on standard output: of its bytes
+    /// and a zero behind them that counts as a character. Peers that send texts as Binary are read so, and the callers
+    /// of the old layer know the zero.
     operator const TVXValueString&() const; // NOLINT(google-explicit-constructor)
 
-    /// Throws when the value is of another type, unless Int is asked for or the value is a Float; and for a number that is
-    /// no type.
+    /// Throws when the value is of another type, unless Int is asked for or the value is a Float; and for a number that
+    /// is no type.
     void xAssertType(Type type) const;
 
-    /// Makes an Invalid value an empty one of that type, with room for 32 elements, 64 characters or 1,024 bytes. Throws
-    /// when it is of another type, and for a number that is no type.
+    /// Makes an Invalid value an empty one of that type, with room for 32 elements, 64 characters or 1,024 bytes.
+    /// Throws when it is of another type, and for a number that is no type.
     void xAssertCompatibleType(Type type);
 
     /// Throws when the value is no Array or has less than `size` elements.
@@ -226,8 +228,8 @@ public:
 
     /// The value as text for people. Verbosity 0 and below gives nothing, 1 the values ("[1, "a"]"), 2 their types and
     /// addresses too, 3 and above a frame of tags around each. The asymmetries of the format (two prefixes before an
-    /// address, a closing Binary tag without an opening one at verbosity 2) are part of it. Numbers are written as in the C
-    /// locale, whatever the process has.
+    /// address, a closing Binary tag without an opening one at verbosity 2) are part of it. Numbers are written as in
+    /// the C locale, whatever the process has.
     std::string dump(int verbosity) const;
 
 private:
@@ -275,16 +277,16 @@ static_assert(sizeof(VXValue) == 16, "the type and the payload, nothing else");
 /// Prints dump(1).
 ZUPACKAGE_EXPORT std::ostream& operator<<(std::ostream& out, const VXValue& value);
 
-/// How the host framework's type system sees a VXValue: as a dynamic, whose content is what the value holds. Registered when
-/// the library is loaded, so that values of the framework convert to a VXValue as told at set(), and a VXValue to whatever
-/// its content converts to.
+/// How the host framework's type system sees a VXValue: as a dynamic, whose content is what the value holds. Registered
+/// when the library is loaded, so that values of the framework convert to a VXValue as told at set(), and a VXValue to
+/// whatever its content converts to.
 class ZUPACKAGE_EXPORT VXValueType : public zu::Native<VXValue, zu::DynamicTypeInterface>
 {
 public:
     ~VXValueType() override;
 
-    /// The payload, inside `value`: a reference of type void for Invalid, to the vector of VXValue of an Array, the flag,
-    /// the 32-bit integer, the float, the string, the bytes of a Binary (as Raw); an empty one for an Object.
+    /// The payload, inside `value`: a reference of type void for Invalid, to the vector of VXValue of an Array, the
+    /// flag, the 32-bit integer, the float, the string, the bytes of a Binary (as Raw); an empty one for an Object.
     zu::AnyReference get(void* value) const override;
 
     /// Replaces `value` by the conversion of what `source` refers to:
@@ -303,9 +305,10 @@ public:
     /// | Function, Signal, Property        | Invalid, with a warning to "zutype.typedispatcher"                       |
     /// | Unknown, Object, Pointer, Iterator, Optional | refused                                                       |
     ///
-    /// An empty reference becomes Invalid, with a warning to the same category; what is of a kind that is not in the table
-    /// becomes Invalid silently. Refused are also a tuple with another number of names than of members, and containers
-    /// nested deeper than zu::k_maxNesting levels. What is refused throws VXError; `value` is then as it was.
+    /// An empty reference becomes Invalid, with a warning to the same category; what is of a kind that is not in the
+    /// table becomes Invalid silently. Refused are also a tuple with another number of names than of members, and
+    /// containers nested deeper than zu::k_maxNesting levels. What is refused throws VXError; `value` is then as it
+    /// was.
     void set(void* value, const zu::AnyReference& source) const override;
 };
 

@@ -34,8 +34,8 @@ fs::path linkTarget(fs::path path)
     return path;
 }
 
-/// Where a file is to be written, as Qt names it. QSaveFile itself follows one link, and a relative one by the look of its
-/// path, not through linked folders.
+/// Where a file is to be written, as Qt names it. QSaveFile itself follows one link, and a relative one by the look of
+/// its path, not through linked folders.
 QString fileBehind(const QString& path)
 {
     return QFile::decodeName(linkTarget(QFile::encodeName(path).toStdString()).c_str());

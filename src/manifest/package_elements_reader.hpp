@@ -13,7 +13,8 @@
 #include <functional>
 #include <vector>
 
-/// What the readers of both package models have in common. Containers may be lists or vectors; what is read is appended.
+/// What the readers of both package models have in common. Containers may be lists or vectors; what is read is
+/// appended.
 namespace zupackage {
 
 /// What reads the elements under the document's root that have this name.

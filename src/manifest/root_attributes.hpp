@@ -6,8 +6,8 @@
 
 namespace zupackage {
 
-/// The attributes of the document's root that are texts, in the order in which they are written, each with the field of a
-/// package, of either model, that it is.
+/// The attributes of the document's root that are texts, in the order in which they are written, each with the field of
+/// a package, of either model, that it is.
 template <class Package>
 struct RootAttribute
 {

@@ -34,8 +34,8 @@ constexpr Field<Record, Value> reserved(const char* name, Value Record::*pointer
     return {name, name, pointer, true};
 }
 
-/// The fields with which a record travels, in the order in which they are registered and stand on the wire. Other programs
-/// go by both, so that no row may move, go or be inserted.
+/// The fields with which a record travels, in the order in which they are registered and stand on the wire. Other
+/// programs go by both, so that no row may move, go or be inserted.
 template <class Record>
 inline constexpr std::tuple<> k_fields{};
 

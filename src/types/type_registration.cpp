@@ -1,5 +1,5 @@
-// What the library makes known to the host framework's type system: the names by which records travel, with the members of
-// their tables. Other programs hold values of these types, so that no name may change.
+// What the library makes known to the host framework's type system: the names by which records travel, with the members
+// of their tables. Other programs hold values of these types, so that no name may change.
 #include "types/type_registration.hpp"
 
 #include "records/behavior_info_p.hpp"

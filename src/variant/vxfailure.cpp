@@ -21,7 +21,8 @@ std::string headline(const std::string& module, const std::string& method)
 
 } // namespace
 
-/// Makes the errors whose text is too long to be copied from one string into the next: that of a type error holds a dump.
+/// Makes the errors whose text is too long to be copied from one string into the next: that of a type error holds a
+/// dump.
 class VXFailure
 {
 public:

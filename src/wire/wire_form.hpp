@@ -12,16 +12,16 @@
 #include <string>
 #include <vector>
 
-/// The wire form of the records. Other programs read it by position, so that neither order nor shape may change; both are
-/// those of the records' tables of fields.
+/// The wire form of the records. Other programs read it by position, so that neither order nor shape may change; both
+/// are those of the records' tables of fields.
 namespace zupackage::wire {
 
 using VX::VXValue;
 
 /// @name Encodings of what a field can be
 ///
-/// A text is a String and a flag a Bool. A list is an Array, a map an Array of pairs in key order. A record with a handle
-/// is an Array of pairs of a field's key and its value, one of the small records an Array of its fields' values.
+/// A text is a String and a flag a Bool. A list is an Array, a map an Array of pairs in key order. A record with a
+/// handle is an Array of pairs of a field's key and its value, one of the small records an Array of its fields' values.
 /// @{
 inline VXValue encoded(const std::string& text) { return VXValue(text); }
 inline VXValue encoded(bool flag) { return VXValue(flag); }

@@ -4,9 +4,9 @@
 
 /// What a document takes, told before it is taken: time in steps of about a nanosecond, memory in bytes.
 ///
-/// Running the parser over the characters is not counted, because it takes time in proportion to them. Counted is what takes
-/// more: what the parser and Qt's document compare again and again, and what is held in memory. Measured on Qt 5.15.8;
-/// the figures are above what was measured.
+/// Running the parser over the characters is not counted, because it takes time in proportion to them. Counted is what
+/// takes more: what the parser and Qt's document compare again and again, and what is held in memory. Measured on Qt
+/// 5.15.8; the figures are above what was measured.
 namespace zupackage::xml::cost {
 
 /// Names of the same kind: entities that are declared, namespace prefixes in scope, attributes of an element.
@@ -51,8 +51,8 @@ constexpr qint64 endingNamespaces(Names inScope, bool isEmptyTag)
 /// Finding the namespace of a prefix.
 constexpr qint64 findingNamespace(Names inScope, qint64 prefixSize) { return inScope.count > 0 ? 100 + prefixSize : 0; }
 
-/// Declaring an entity: its text is searched for a reference to each of the entities, and moved for each reference that is
-/// found; each of their names is hashed several times.
+/// Declaring an entity: its text is searched for a reference to each of the entities, and moved for each reference that
+/// is found; each of their names is hashed several times.
 constexpr qint64 declaringEntity(Names entities, qint64 textSize, qint64 references)
 {
     return entities.count * (200 + textSize) + 4 * entities.characters + references * textSize;

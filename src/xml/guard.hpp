@@ -15,9 +15,9 @@ QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED
 #include <QtXml/QXmlDefaultHandler>
 
-/// Beyond these the XML library breaks: its stack overflows (at 25,000 levels of elements, 200,000 of groups in a content
-/// model), its sizes do (in a document of gigabytes), an entity of some bytes becomes gigabytes. No manifest comes near
-/// them. What only takes time or memory is no matter of limits but of cost, see cost.hpp.
+/// Beyond these the XML library breaks: its stack overflows (at 25,000 levels of elements, 200,000 of groups in a
+/// content model), its sizes do (in a document of gigabytes), an entity of some bytes becomes gigabytes. No manifest
+/// comes near them. What only takes time or memory is no matter of limits but of cost, see cost.hpp.
 namespace zupackage::xml::limits {
 
 inline constexpr qint64 k_bytesPerMiB = 1024 * 1024;
@@ -38,7 +38,8 @@ enum class Model : std::uint8_t
     DomWithNamespaces ///< the same with namespaces
 };
 
-/// Sees the events of a document before anything is made of them, and ends it where it exceeds a limit or costs too much.
+/// Sees the events of a document before anything is made of them, and ends it where it exceeds a limit or costs too
+/// much.
 class Guard : public QXmlDefaultHandler
 {
 public:

@@ -4,8 +4,9 @@
 
 namespace zupackage::xml {
 
-/// Follows how many attributes the tag has that is being read, because the parser reports them only when it has them all.
-/// What stands in entities it does not see. Tags that are not well-formed may be miscounted: they end the document.
+/// Follows how many attributes the tag has that is being read, because the parser reports them only when it has them
+/// all. What stands in entities it does not see. Tags that are not well-formed may be miscounted: they end the
+/// document.
 class OpenTag
 {
 public:

@@ -6,8 +6,8 @@
 
 namespace zupackage::xml {
 
-/// Writes a document as UTF-8 text, laid out as QDomDocument does it: an element a line; one that holds a text holds it on
-/// its own line. Attributes stand in the order in which they are written.
+/// Writes a document as UTF-8 text, laid out as QDomDocument does it: an element a line; one that holds a text holds it
+/// on its own line. Attributes stand in the order in which they are written.
 class TextWriter
 {
 public:

@@ -26,9 +26,9 @@ public:
         m_tree.reserve(static_cast<std::size_t>(documentBytes));
     }
 
-    /// Whether the document has something that must be left to QDomDocument: a document type, a reference to an undeclared
-    /// entity; with namespaces, a prefixed element or several attributes that differ in their prefixes alone. The tree is
-    /// not whole then, and the failure means nothing.
+    /// Whether the document has something that must be left to QDomDocument: a document type, a reference to an
+    /// undeclared entity; with namespaces, a prefixed element or several attributes that differ in their prefixes
+    /// alone. The tree is not whole then, and the failure means nothing.
     bool isOutOfTheOrdinary() const { return m_isOutOfTheOrdinary; }
 
     Tree& tree() { return m_tree; }

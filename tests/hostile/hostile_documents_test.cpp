@@ -1,5 +1,5 @@
-// Reads each hostile document in a process of its own, as a text and as a file, on the main thread and on a small stack,
-// with no more time and memory than its size allows.
+// Reads each hostile document in a process of its own, as a text and as a file, on the main thread and on a small
+// stack, with no more time and memory than its size allows.
 #include "hostile/hostile_documents.hpp"
 #include "support/files.hpp"
 #include "support/program.hpp"

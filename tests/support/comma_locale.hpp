@@ -4,8 +4,8 @@
 
 namespace zu::test {
 
-/// While it lives, the process has a locale that writes a comma where others have a point. Throws std::runtime_error when there is
-/// none to be had.
+/// While it lives, the process has a locale that writes a comma where others have a point. Throws std::runtime_error
+/// when there is none to be had.
 class CommaLocale
 {
 public:

@@ -15,8 +15,8 @@ rc::Gen<std::string> visibleTexts();
 /// Byte strings: beside what texts() has, control characters and bytes that are no UTF-8.
 rc::Gen<std::string> byteStrings();
 
-/// Packages with every attribute filled from `attributes` and the texts of every element from `contents`; empty keys occur.
-/// Installer and path stay empty.
+/// Packages with every attribute filled from `attributes` and the texts of every element from `contents`; empty keys
+/// occur. Installer and path stay empty.
 rc::Gen<PackageInfo> packages(const rc::Gen<std::string>& contents, const rc::Gen<std::string>& attributes = texts());
 
 /// Everything that a package holds: its dump, and what the dump leaves out.

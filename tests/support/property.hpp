@@ -10,8 +10,8 @@
 
 namespace zu::test {
 
-/// Of 100 inputs that a property asks for, how many it gets: ZU_PROPERTY_PERCENT in the environment, else all. Builds in
-/// which inputs are slow set it.
+/// Of 100 inputs that a property asks for, how many it gets: ZU_PROPERTY_PERCENT in the environment, else all. Builds
+/// in which inputs are slow set it.
 inline int propertyPercent()
 {
     const char* percent = std::getenv("ZU_PROPERTY_PERCENT");

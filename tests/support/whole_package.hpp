@@ -9,8 +9,8 @@ BehaviorInfo wholeBehavior();
 DialogInfo wholeDialog();
 LanguageInfo wholeLanguage();
 
-/// A package with every field filled, each with texts of its own, some of them empty; of every kind of record a whole one
-/// and an empty one.
+/// A package with every field filled, each with texts of its own, some of them empty; of every kind of record a whole
+/// one and an empty one.
 PackageInfo wholePackage();
 
 } // namespace zu::test

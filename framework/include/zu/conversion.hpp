@@ -33,8 +33,8 @@
 /// rounded to the nearest that it has. Infinities and NaN convert among floating-point types, never to an integer.
 ///
 /// A target is changed as a whole or, when the conversion fails, not at all. Values nested deeper than k_maxNesting are
-/// refused, and so are those that refer to parts of themselves in very many ways (see walk.hpp). What runs out of memory
-/// throws std::bad_alloc.
+/// refused, and so are those that refer to parts of themselves in very many ways (see walk.hpp). What runs out of
+/// memory throws std::bad_alloc.
 namespace zu {
 
 /// Why a conversion failed, and where.

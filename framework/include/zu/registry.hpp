@@ -9,8 +9,8 @@
 /// and the library that an interface comes from must stay loaded.
 namespace zu {
 
-/// Makes `type` what is used for values of the C++ type `info`. To be called before the first use of the C++ type, which
-/// would otherwise be known as something else to the library of that use.
+/// Makes `type` what is used for values of the C++ type `info`. To be called before the first use of the C++ type,
+/// which would otherwise be known as something else to the library of that use.
 /// @return false, and nothing is changed, when an interface is registered already; the same, with a message to the
 /// category "zutype.registry", when the C++ type was used before, when `type` is null or its identity is not `info`, or
 /// when the C++ type stands in an anonymous namespace.

@@ -1,6 +1,7 @@
 #pragma once
 
-// What every header for the users of values must give; includes nothing itself, so that the header is what it compiles by.
+// What every header for the users of values must give; includes nothing itself, so that the header is what it compiles
+// by.
 
 inline long sumOf(const zu::AnyReferenceBase& list)
 {

@@ -48,7 +48,8 @@ public:
     /// Holds a copy of `object` (what it was moved into, for a temporary), of exactly its declared type, but for those
     /// that would refer to something else: of an AnyReference it is the value referred to that is copied; a C string, a
     /// literal and a std::string_view are held as std::string; a null C string throws std::invalid_argument. Of an
-    /// AnyValue it is a copy, and not one that holds an AnyValue. (One that does is made of a reference to the AnyValue.)
+    /// AnyValue it is a copy, and not one that holds an AnyValue. (One that does is made of a reference to the
+    /// AnyValue.)
     template <class T>
     static AnyValue from(T&& object);
 
