@@ -39,6 +39,7 @@ TEST(PackageReaderDom, WhatIsEasilyReadOtherwise)
         "<p><z:names><n lang='en'>a</n></z:names><:names><n lang='en'>b</n></:names></p>",
         "<p><names><n xml:lang='en'>a</n></names></p>",
         "<p uuid=' a\tb\nc\r\nd\re&#9;f&#10;g&#13;h '><names><n>\ta\r\nb\rc </n></names></p>",
+        // NOLINTNEXTLINE(bugprone-suspicious-missing-comma): too long for a line
         "<p><supportedLanguages> <l> </l>\xc2\xa0<l>\xc2\xa0</l>&#32;<l>&#32;</l><![CDATA[ ]]><l><![CDATA[ ]]></l>"
         "</supportedLanguages></p>",
         "<p><names>a<!-- b --><![CDATA[c]]><?d?>&#101;<n lang='en'>a<!-- b --><![CDATA[c]]><?d?>&#101;<f>g</f></n>"
