@@ -83,12 +83,14 @@ function(zu_install_package config_template)
         DESTINATION ${destination})
 endfunction()
 
-# Every public header under include/${folder} is the only one, twice, of a source of its own; for HEADERS, the file WITH
-# follows.
+# Every public header under include/${folder} of the project, or of the folder ROOT, is the only one, twice, of a source
+# of its own; for HEADERS, the file WITH follows.
 function(zu_compile_headers_alone library folder)
-    cmake_parse_arguments(arg "" "WITH" "HEADERS" ${ARGN})
-    file(GLOB_RECURSE headers
-        RELATIVE ${PROJECT_SOURCE_DIR}/include/${folder} ${PROJECT_SOURCE_DIR}/include/${folder}/*.hpp)
+    cmake_parse_arguments(arg "" "ROOT;WITH" "HEADERS" ${ARGN})
+    if(NOT arg_ROOT)
+        set(arg_ROOT ${PROJECT_SOURCE_DIR})
+    endif()
+    file(GLOB_RECURSE headers RELATIVE ${arg_ROOT}/include/${folder} ${arg_ROOT}/include/${folder}/*.hpp)
     foreach(header IN LISTS headers)
         string(REPLACE ".hpp" "" name ${header})
         set(text "#include <${folder}/${header}>\n#include <${folder}/${header}>\n")
@@ -98,9 +100,10 @@ function(zu_compile_headers_alone library folder)
         file(CONFIGURE OUTPUT headers/${name}.cpp CONTENT "${text}")
         list(APPEND sources ${CMAKE_CURRENT_BINARY_DIR}/headers/${name}.cpp)
     endforeach()
-    add_library(${folder}_headers OBJECT ${sources})
-    zu_compile_options(${folder}_headers)
-    target_link_libraries(${folder}_headers PRIVATE ${library})
+    string(MAKE_C_IDENTIFIER ${folder}_headers target)
+    add_library(${target} OBJECT ${sources})
+    zu_compile_options(${target})
+    target_link_libraries(${target} PRIVATE ${library})
 endfunction()
 
 # How tests are compiled: without optimisation, which takes a third of the time; -fPIC, for one precompiled header.

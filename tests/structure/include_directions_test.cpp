@@ -25,6 +25,7 @@ struct Rule
 
 constexpr char k_framework[] = "framework/include/zu/";
 constexpr char k_package[] = "include/zupackage/";
+constexpr char k_authoring[] = "authoring/include/zupackage/authoring/";
 
 const std::vector<Rule> k_rules = {
     {"framework/include/", {k_framework, "boost/", "std/"}},
@@ -50,8 +51,14 @@ const std::vector<Rule> k_rules = {
      {"src/value_model/", "src/manifest/", "src/records/", "src/xml/", k_package, k_framework, "QtCore/", "std/"}},
     {"src/types/", {"src/", k_package, k_framework, "std/"}},
 
-    {"cli/", {"cli/", k_package, "QtCore/", "CLI/", "std/"}},
-    {"bench/", {"bench/", k_package, k_framework, "QtCore/", "QtXml/", "benchmark/", "boost/", "nlohmann/", "std/"}},
+    {"authoring/include/", {k_authoring, k_package, "std/"}},
+    {"authoring/src/", {"authoring/src/", k_authoring, k_package, "QtCore/", "std/"}},
+    {"authoring/tests/",
+     {"authoring/", "tests/", k_package, k_framework, "QtCore/", "QtXml/", "gmock/", "gtest/", "std/"}},
+
+    {"cli/", {"cli/", k_authoring, k_package, "QtCore/", "CLI/", "std/"}},
+    {"bench/",
+     {"bench/", k_authoring, k_package, k_framework, "QtCore/", "QtXml/", "benchmark/", "boost/", "nlohmann/", "std/"}},
     {"fuzz/", {"fuzz/", "tests/support/", k_package, k_framework, "std/"}},
     {"examples/api/", {k_package, k_framework, "std/"}},
     {"tests/consumer/", {k_package, k_framework, "std/"}},
@@ -118,7 +125,13 @@ TEST(Structure, EachForbiddenDirectionIsFound)
         {"src/manifest/x.cpp", "#include <zu/log.hpp>"},
         {"src/value_model/x.cpp", "#include \"wire/wire_form.hpp\""},
         {"src/new_room/x.cpp", "#  include <string> // comment"},
+        {"src/manifest/x.cpp", "#include <zupackage/authoring/source_document.hpp>"},
+        {"include/zupackage/x.hpp", "#include <zupackage/authoring/source_document.hpp>"},
+        {"authoring/include/zupackage/authoring/x.hpp", "#include <QtCore/QString>"},
+        {"authoring/src/x.cpp", "#include \"xml/guard.hpp\""},
+        {"authoring/src/x.cpp", "#include <zu/log.hpp>"},
         {"cli/x.cpp", "#include <zu/log.hpp>"},
+        {"cli/x.cpp", "#include \"scanner.hpp\""},
         {"cli/x.cpp", "#include \"records/package_info_p.hpp\""},
         {"tests/cli/x.cpp", "#include <zupackage/package_info.hpp>"},
     };

@@ -13,7 +13,9 @@ namespace fs = std::filesystem;
 namespace {
 
 /// Where the project's quoted includes start from, beside the folder of the file that has them.
-constexpr const char* k_roots[] = {"framework/src/", "framework/tests/", "src/", "cli/", "tests/", "bench/", "fuzz/"};
+constexpr const char* k_roots[] = {
+    "framework/src/", "framework/tests/", "authoring/src/", "authoring/tests/", "src/", "cli/",
+    "tests/",         "bench/",           "fuzz/"};
 
 bool startsWith(const std::string& text, const std::string& prefix)
 {
@@ -45,6 +47,8 @@ std::string targetOf(const Include& include, const std::string& file)
     if (!include.quoted) {
         if (startsWith(include.name, "zu/"))
             return "framework/include/" + include.name;
+        if (startsWith(include.name, "zupackage/authoring/"))
+            return "authoring/include/" + include.name;
         if (startsWith(include.name, "zupackage/"))
             return "include/" + include.name;
         return include.name.find('/') == std::string::npos ? "std/" + include.name : include.name;
@@ -62,7 +66,7 @@ std::string targetOf(const Include& include, const std::string& file)
 std::vector<std::string> sourcesAndHeaders()
 {
     std::vector<std::string> files;
-    for (const char* folder : {"bench", "framework", "fuzz", "include", "src", "cli", "examples", "tests"})
+    for (const char* folder : {"authoring", "bench", "framework", "fuzz", "include", "src", "cli", "examples", "tests"})
         for (const auto& entry : fs::recursive_directory_iterator(sourcePath(folder)))
             if (entry.path().extension() == ".cpp" || entry.path().extension() == ".hpp")
                 files.push_back(fs::relative(entry.path(), sourcePath("")).string());

@@ -1,0 +1,264 @@
+#pragma once
+
+#include <zupackage/authoring/export.hpp>
+#include <zupackage/authoring/place.hpp>
+
+#include <cstdint>
+#include <iterator>
+#include <string>
+#include <string_view>
+
+namespace zu::authoring {
+
+class SourceAttributes;
+class SourceChildren;
+class SourceNode;
+struct SourceTree;
+
+enum class NodeKind : std::uint8_t
+{
+    None,                  ///< that of a null node
+    Document,              ///< the whole: what stands in it is its children
+    XmlDeclaration,        ///< `<?xml ...?>`, with its parts as attributes
+    DocumentType,          ///< `<!DOCTYPE ...>`, with its declarations
+    Element,               ///< with its attributes and children
+    Text,                  ///< characters, references to characters, and the predefined entities such as `&amp;`
+    CData,                 ///< `<![CDATA[ ... ]]>`
+    Comment,               ///< `<!-- ... -->`
+    ProcessingInstruction, ///< `<?target ...?>`
+    EntityReference,       ///< `&name;` in content, of an entity that is not predefined
+};
+
+/// One attribute of an element, or one part of the XML declaration, as it stands in a document.
+///
+/// A small handle, like SourceNode: to be passed by value, and valid as long as the document or a copy of it. Of a null
+/// attribute every text is empty and every range [0, 0).
+class ZUPACKAGE_AUTHORING_EXPORT SourceAttribute
+{
+public:
+    /// A null attribute.
+    SourceAttribute() = default;
+
+    /// Whether there is one.
+    explicit operator bool() const { return m_tree != nullptr; }
+
+    /// The element, or the XML declaration, that has it.
+    SourceNode owner() const;
+
+    /// The name as it stands there, with its prefix.
+    std::string_view name() const;
+    /// The name without its prefix: what the package library's reader goes by.
+    std::string_view localName() const;
+    /// What stands before the first colon of the name; empty without one.
+    std::string_view prefix() const;
+
+    /// The value in UTF-8, references resolved and white space normalised: tabs and line ends are spaces. A reference
+    /// to what cannot be resolved, or that is none, stands as it is; one to a character that XML forbids is U+FFFD.
+    std::string_view value() const;
+
+    /// From the name to the closing quote.
+    ByteRange range() const;
+    ByteRange nameRange() const;
+    /// Within the quotes.
+    ByteRange valueRange() const;
+    /// `"` or `'`.
+    char quote() const;
+
+    /// As SourceNode::path(): `/package/@uuid`; of a part of the XML declaration `/`.
+    std::string path() const;
+
+private:
+    friend class SourceAttributes;
+    friend class SourceNode;
+    SourceAttribute(const SourceTree* tree, std::uint32_t owner, std::uint32_t index)
+        : m_tree(tree), m_owner(owner), m_index(index)
+    {
+    }
+
+    const SourceTree* m_tree = nullptr;
+    std::uint32_t m_owner = 0;
+    std::uint32_t m_index = 0;
+};
+
+/// One node of a document, with the bytes that it takes there.
+///
+/// The ranges of a node's children follow each other without a gap and fill its contentRange(); white space between
+/// elements is Text, too. Adjacent nodes of one kind are there only where markup parts them (CDATA sections, comments).
+///
+/// A small handle: to be passed by value, compared by identity, and valid as long as the document or a copy of it; so
+/// are the texts that it hands out. What is asked of a null node gives null nodes, empty texts and empty ranges at 0,
+/// so that calls can be chained without checks. All may be called by several threads at once.
+class ZUPACKAGE_AUTHORING_EXPORT SourceNode
+{
+public:
+    /// A null node.
+    SourceNode() = default;
+
+    /// Whether there is one.
+    explicit operator bool() const { return m_tree != nullptr; }
+    NodeKind kind() const;
+    bool isElement() const { return kind() == NodeKind::Element; }
+
+    /// The number of the node in document order; the document itself is 0.
+    std::size_t index() const { return m_index; }
+
+    /// @name Neighbours; null where there is none
+    /// @{
+    SourceNode parent() const;
+    SourceNode firstChild() const;
+    SourceNode nextSibling() const;
+    /// The nodes in this one, without those in them.
+    SourceChildren children() const;
+    /// The first element in this one with that local name.
+    SourceNode child(std::string_view localName) const;
+    /// @}
+
+    /// In the order of the document, repeated ones included. Empty but for elements and the XML declaration.
+    SourceAttributes attributes() const;
+    /// The first attribute of that local name that is no declaration of a namespace; null when there is none.
+    SourceAttribute attribute(std::string_view localName) const;
+
+    /// The name as it stands there, with its prefix: of an element, an entity, the target of an instruction, the root
+    /// element that a document type names, `xml` of the XML declaration. Of the others empty.
+    std::string_view name() const;
+    /// The name without its prefix: what the package library's reader goes by.
+    std::string_view localName() const;
+    /// What stands before the first colon of the name; empty without one.
+    std::string_view prefix() const;
+
+    /// What the node says, in UTF-8, with line ends as line feeds: the characters of a text, references resolved (what
+    /// SourceAttribute::value() says of those that cannot be resolved holds here, too); the inside of a CDATA section
+    /// or a comment; the data of an instruction. Of an entity the text that was declared for it, without what else that
+    /// refers to; empty when there is markup in it. Of all others empty.
+    std::string_view value() const;
+
+    /// The values of the texts, CDATA sections and entities within this node at any depth, one after the other; of such
+    /// a node its own.
+    std::string textContent() const;
+
+    /// @name What it takes of the document
+    /// @{
+    /// The whole node. Of an element whose end is missing, up to where the tree ends.
+    ByteRange range() const;
+    /// Of an element from `<` to `>`; empty, at its beginning, of other nodes.
+    ByteRange startTagRange() const;
+    /// Of an element from `</` to `>`; empty, at its end, of an empty tag, of a missing one and of other nodes.
+    ByteRange endTagRange() const;
+    /// Of the name that name() gives, in the start tag. Empty, at its beginning, where that is empty.
+    ByteRange nameRange() const;
+    /// Of an element what stands between its tags, empty at its end for an empty tag; of a CDATA section, a comment or
+    /// an instruction what value() gives, of a document what the tree covers (which is all but a byte order mark when
+    /// SourceDocument::isComplete()). Of a document type and the XML declaration what follows their name. The whole of
+    /// a text and of a reference.
+    ByteRange contentRange() const;
+    /// Whether it is an element written as `<name/>`.
+    bool isEmptyTag() const;
+    /// @}
+
+    /// The way to the node in XPath notation: `/package/contents/behaviorContent[2]/names/name[1]/text()`. Names stand
+    /// as in the document, with their prefixes; a number, counted from 1, is there only where siblings have the same
+    /// name. Texts, CDATA sections and entities count together as `text()`. The document, its type and the XML
+    /// declaration are `/`. Takes time in proportion to the number of siblings on the way.
+    std::string path() const;
+
+private:
+    friend class SourceAttribute;
+    friend class SourceDocument;
+    SourceNode(const SourceTree* tree, std::uint32_t index) : m_tree(tree), m_index(index) {}
+    friend bool operator==(SourceNode left, SourceNode right)
+    {
+        return left.m_tree == right.m_tree && left.m_index == right.m_index;
+    }
+    friend bool operator!=(SourceNode left, SourceNode right) { return !(left == right); }
+
+    const SourceTree* m_tree = nullptr;
+    std::uint32_t m_index = 0;
+};
+
+/// The children of a node, for a range-based loop.
+class SourceChildren
+{
+public:
+    class Iterator
+    {
+    public:
+        using iterator_category = std::input_iterator_tag;
+        using value_type = SourceNode;
+        using difference_type = std::ptrdiff_t;
+        using pointer = const SourceNode*;
+        using reference = SourceNode;
+
+        explicit Iterator(SourceNode node) : m_node(node) {}
+        SourceNode operator*() const { return m_node; }
+        Iterator& operator++()
+        {
+            m_node = m_node.nextSibling();
+            return *this;
+        }
+        friend bool operator==(Iterator left, Iterator right) { return left.m_node == right.m_node; }
+        friend bool operator!=(Iterator left, Iterator right) { return left.m_node != right.m_node; }
+
+    private:
+        SourceNode m_node;
+    };
+
+    explicit SourceChildren(SourceNode parent) : m_parent(parent) {}
+    Iterator begin() const { return Iterator(m_parent.firstChild()); }
+    Iterator end() const { return Iterator(SourceNode()); }
+
+private:
+    SourceNode m_parent;
+};
+
+/// The attributes of a node, for a range-based loop and by their number.
+class SourceAttributes
+{
+public:
+    class Iterator
+    {
+    public:
+        using iterator_category = std::input_iterator_tag;
+        using value_type = SourceAttribute;
+        using difference_type = std::ptrdiff_t;
+        using pointer = const SourceAttribute*;
+        using reference = SourceAttribute;
+
+        Iterator(const SourceAttributes* attributes, std::size_t number) : m_attributes(attributes), m_number(number) {}
+        SourceAttribute operator*() const { return (*m_attributes)[m_number]; }
+        Iterator& operator++()
+        {
+            ++m_number;
+            return *this;
+        }
+        friend bool operator==(Iterator left, Iterator right) { return left.m_number == right.m_number; }
+        friend bool operator!=(Iterator left, Iterator right) { return left.m_number != right.m_number; }
+
+    private:
+        const SourceAttributes* m_attributes;
+        std::size_t m_number;
+    };
+
+    std::size_t size() const { return m_size; }
+    bool isEmpty() const { return m_size == 0; }
+    /// `number` counts from 0 and is below size().
+    SourceAttribute operator[](std::size_t number) const
+    {
+        return {m_tree, m_owner, m_first + static_cast<std::uint32_t>(number)};
+    }
+    Iterator begin() const { return {this, 0}; }
+    Iterator end() const { return {this, m_size}; }
+
+private:
+    friend class SourceNode;
+    SourceAttributes(const SourceTree* tree, std::uint32_t owner, std::uint32_t first, std::uint32_t size)
+        : m_tree(tree), m_owner(owner), m_first(first), m_size(size)
+    {
+    }
+
+    const SourceTree* m_tree;
+    std::uint32_t m_owner;
+    std::uint32_t m_first;
+    std::uint32_t m_size;
+};
+
+} // namespace zu::authoring

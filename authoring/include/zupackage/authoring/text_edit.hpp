@@ -1,0 +1,36 @@
+#pragma once
+
+#include <zupackage/authoring/export.hpp>
+#include <zupackage/authoring/place.hpp>
+#include <zupackage/authoring/source_document.hpp>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zu::authoring {
+
+/// One change of a document's text: what stands in `range` becomes `replacement`. An empty range is an insertion.
+struct TextEdit
+{
+    ByteRange range;
+    std::string replacement; ///< in UTF-8, as it is to stand there: escaped, with the line ends that it is to have
+};
+
+inline bool operator==(const TextEdit& left, const TextEdit& right)
+{
+    return left.range == right.range && left.replacement == right.replacement;
+}
+inline bool operator!=(const TextEdit& left, const TextEdit& right) { return !(left == right); }
+
+/// The bytes of the document with the edits made, all of them or none. Every byte outside the ranges stays as it is;
+/// replacements are encoded in the document's encoding, a character that it cannot hold as a numeric reference.
+///
+/// The edits are in the order of their ranges, which may touch but not overlap; of insertions at one place the first
+/// comes first.
+/// @return nothing when edits are out of order or overlap, reach beyond the document or into its byte order mark, or
+/// cut a character in two, or when a replacement is no UTF-8.
+ZUPACKAGE_AUTHORING_EXPORT std::optional<std::string> applyEdits(const SourceDocument& document,
+                                                                 const std::vector<TextEdit>& edits);
+
+} // namespace zu::authoring
