@@ -276,6 +276,21 @@ private:
     const std::unique_ptr<PackageInfoPrivate> m_p;
 };
 
+/// Why a manifest cannot be read.
+struct ManifestSyntaxError
+{
+    std::string message; ///< in the words of the parser, or naming the limit that the document exceeds
+    int line = 0;        ///< counted from 1
+    int column = 0;      ///< counted from 1
+};
+
+/// Adds to `package` what PackageInfo::loadFromManifestFile() reads from a file of these bytes, for programs that have
+/// the bytes already, or that say in their own words what is wrong: the error is not logged.
+/// @param error receives why the result is false; may be null.
+/// @return false, and the package is as it was, when the document is refused.
+ZUPACKAGE_EXPORT bool readManifest(const std::string& bytes, PackageInfo& package,
+                                   ManifestSyntaxError* error = nullptr);
+
 /// Replaces the manifest file of that name, in UTF-8, as a whole: with what PackageInfo::saveToManifestFile() writes,
 /// or not at all. The new content stands in a file beside the old one until it is complete and on the disk, and takes
 /// its place then; when the process ends before that, the old file is as it was, and the new one may be left beside it.
@@ -287,6 +302,9 @@ private:
 /// when the folder or the file may not be written, and when what has the name is no regular file: a device, a pipe, a
 /// folder.
 ZUPACKAGE_EXPORT void saveManifest(const PackageInfo& package, const std::string& path);
+
+/// The same for programs that edit the text of a manifest: the file becomes these bytes, whatever they are.
+ZUPACKAGE_EXPORT void replaceManifest(const std::string& path, const std::string& bytes);
 
 /// Prints the package for people, an item a line, flushed line by line. Flags print as 1 or 0,
 /// whatever the format of the stream. Installer, services, executable files and description languages are not

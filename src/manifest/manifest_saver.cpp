@@ -89,8 +89,13 @@ namespace zu {
 
 void saveManifest(const PackageInfo& package, const std::string& path)
 {
+    replaceManifest(path, zupackage::manifestFileOf(PrivateRecord::of(package)));
+}
+
+void replaceManifest(const std::string& path, const std::string& bytes)
+{
     try {
-        zupackage::replaceFile(zupackage::xml::fromUtf8(path), zupackage::manifestFileOf(PrivateRecord::of(package)));
+        zupackage::replaceFile(zupackage::xml::fromUtf8(path), bytes);
     } catch (const std::runtime_error& error) {
         throw std::runtime_error("Could not write " + std::string(path.c_str()) + ": " + error.what());
     }

@@ -6,7 +6,11 @@
 #include "records/package_info_p.hpp"
 #include "xml/nodes.hpp"
 
+#include <QtCore/QBuffer>
 #include <QtCore/QFile>
+
+#include <algorithm>
+#include <limits>
 
 namespace zupackage {
 
@@ -88,6 +92,24 @@ bool PackageInfo::loadFromManifestFile(const std::string& path)
 {
     QFile file(zupackage::xml::fromUtf8(path));
     return loadFromManifestFile(file);
+}
+
+bool readManifest(const std::string& bytes, PackageInfo& package, ManifestSyntaxError* error)
+{
+    // What is beyond the reach of an int is far beyond the largest document that is read, too.
+    const auto size = std::min<std::size_t>(bytes.size(), std::numeric_limits<int>::max());
+    QByteArray content = QByteArray::fromRawData(bytes.data(), static_cast<int>(size));
+    QBuffer device(&content);
+    device.open(QIODevice::ReadOnly);
+    zupackage::xml::ParseResult result = zupackage::xml::parse(device);
+    if (const auto* tree = std::get_if<zupackage::xml::Tree>(&result)) {
+        zupackage::fill(PrivateRecord::of(package), tree->root());
+        return true;
+    }
+    auto& failure = std::get<zupackage::xml::ParseFailure>(result);
+    if (error)
+        *error = {std::move(failure.message), failure.line, failure.column};
+    return false;
 }
 
 } // namespace zu

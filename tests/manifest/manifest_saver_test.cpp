@@ -102,6 +102,15 @@ TEST_F(ManifestSaver, WritesWhatSaveToManifestFileWritesAndNothingElse)
     EXPECT_THAT(files(), ElementsAre("manifest.xml"));
 }
 
+TEST_F(ManifestSaver, PutsAnyBytesInThePlaceOfAManifest)
+{
+    const std::string file = folder.file("manifest.xml", "old");
+    const std::string bytes("\xFF\0<", 3);
+    replaceManifest(file, bytes);
+    EXPECT_EQ(test::readFile(file), bytes);
+    EXPECT_THAT(files(), ElementsAre("manifest.xml"));
+}
+
 TEST_F(ManifestSaver, ReplacesALongerFile)
 {
     folder.file("manifest.xml", std::string(100'000, 'x'));
