@@ -53,6 +53,7 @@ const std::vector<Rule> k_rules = {
 
     {"authoring/include/", {k_authoring, k_package, "std/"}},
     {"authoring/src/", {"authoring/src/", k_authoring, k_package, "QtCore/", "std/"}},
+    {"authoring/generate/", {"nlohmann/", "std/"}},
     {"authoring/tests/",
      {"authoring/", "tests/", k_package, k_framework, "QtCore/", "QtXml/", "gmock/", "gtest/", "std/"}},
 

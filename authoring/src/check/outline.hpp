@@ -1,0 +1,53 @@
+#pragma once
+
+#include <zupackage/authoring/source_document.hpp>
+#include <zupackage/authoring/vocabulary.hpp>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zupackage::check {
+
+using zu::authoring::ElementEntry;
+using zu::authoring::SourceAttribute;
+using zu::authoring::SourceDocument;
+using zu::authoring::SourceNode;
+
+/// What the vocabulary says about the elements of a document. The root counts as the vocabulary's, whatever its name.
+/// An element with a prefix is unknown, and so is all that stands in an unknown one.
+///
+/// Refers to the document, which has to stay.
+class Outline
+{
+public:
+    explicit Outline(const SourceDocument& document);
+
+    const SourceDocument& document() const { return m_document; }
+
+    /// @return what the vocabulary says about a node; null when it says nothing.
+    const ElementEntry* entry(SourceNode node) const { return m_entries[node.index()]; }
+
+    /// The elements that the vocabulary knows, in the order of the document.
+    const std::vector<SourceNode>& elements() const { return m_elements; }
+
+    /// Those of them that belong to the entry with that path, which must be one of the vocabulary.
+    const std::vector<SourceNode>& elements(std::string_view path) const;
+
+private:
+    const SourceDocument& m_document;
+    std::vector<const ElementEntry*> m_entries; ///< by the number of the node
+    std::vector<SourceNode> m_elements;
+    std::vector<std::vector<SourceNode>> m_elementsOf; ///< by the index of the entry
+};
+
+/// The attribute of that name, without a prefix; null when there is none.
+SourceAttribute plainAttribute(SourceNode element, std::string_view name);
+
+/// What it holds; empty when there is none.
+std::string_view plainValue(SourceNode element, std::string_view name);
+
+/// The elements in a node that have that name, without a prefix.
+std::vector<SourceNode> childrenNamed(SourceNode node, std::string_view name);
+
+} // namespace zupackage::check

@@ -1,0 +1,279 @@
+#include "check/date.hpp"
+#include "check/edits.hpp"
+#include "check/findings.hpp"
+#include "check/version.hpp"
+#include "check/wording.hpp"
+
+#include <zupackage/behavior_info.hpp>
+
+#include <algorithm>
+#include <array>
+
+namespace zupackage::check {
+
+namespace {
+
+using zu::BehaviorInfo;
+using zu::authoring::AttributeEntry;
+using zu::authoring::ExampleFrame;
+using zu::authoring::Severity;
+using zu::authoring::ValueKind;
+
+constexpr std::string_view k_behavior = "/package/contents/behaviorContent";
+
+/// Calls `visit(attribute)` for the attributes of that kind that hold something.
+template <typename Visit>
+void forEachValue(const Outline& outline, ValueKind kind, Visit visit)
+{
+    for (const SourceNode element : outline.elements()) {
+        for (const AttributeEntry& known : outline.entry(element)->attributes) {
+            const SourceAttribute attribute =
+                known.kind == kind ? plainAttribute(element, known.name) : SourceAttribute();
+            if (attribute && !attribute.value().empty())
+                visit(attribute);
+        }
+    }
+}
+
+std::string lowered(std::string_view text)
+{
+    std::string result(text);
+    for (char& c : result)
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    return result;
+}
+
+/// What a text that is no flag says all the same; empty when it says nothing that we know.
+std::string_view meantFlag(std::string_view text)
+{
+    const std::string word = lowered(trimmed(text));
+    constexpr std::array<std::string_view, 5> k_yes = {"true", "1", "yes", "on", "y"};
+    constexpr std::array<std::string_view, 5> k_no = {"false", "0", "no", "off", "n"};
+    if (std::find(k_yes.begin(), k_yes.end(), word) != k_yes.end())
+        return "true";
+    return std::find(k_no.begin(), k_no.end(), word) != k_no.end() ? "false" : "";
+}
+
+void findInvalidFlags(const Checked& checked, Findings& findings)
+{
+    constexpr std::array<std::string_view, 4> k_flags = {"true", "1", "false", "0"};
+    for (const SourceNode element : checked.outline.elements()) {
+        for (const AttributeEntry& known : checked.outline.entry(element)->attributes) {
+            const SourceAttribute attribute =
+                known.kind == ValueKind::Flag ? plainAttribute(element, known.name) : SourceAttribute();
+            if (!attribute || std::find(k_flags.begin(), k_flags.end(), attribute.value()) != k_flags.end())
+                continue;
+            Finding& finding =
+                findings.at(attribute, inQuotes(attribute.value()) + " is read as false; write \"true\" or "
+                                                                     "\"false\"");
+            const std::string_view flag = trimmed(attribute.value());
+            const std::string_view meant = meantFlag(flag);
+            if (std::find(k_flags.begin(), k_flags.end(), flag) != k_flags.end())
+                finding.safeFix("write " + inQuotes(flag), {replacement(attribute, flag)});
+            else if (!meant.empty())
+                finding.unsafeFix("write " + inQuotes(meant), {replacement(attribute, meant)});
+        }
+    }
+}
+
+void findInvalidDates(const Checked& checked, Findings& findings)
+{
+    forEachValue(checked.outline, ValueKind::Date, [&](SourceAttribute attribute) {
+        if (!isDate(attribute.value()))
+            findings.at(attribute, inQuotes(attribute.value()) + " is no date of the form \"2026-09-12\"");
+    });
+}
+
+void findMalformedVersions(const Checked& checked, Findings& findings)
+{
+    forEachValue(checked.outline, ValueKind::Version, [&](SourceAttribute attribute) {
+        if (!parseVersion(attribute.value()))
+            findings.at(attribute,
+                        inQuotes(attribute.value()) + " is no version of the form \"1.2\" or \"1.2.0-beta\"");
+    });
+}
+
+void findReversedRanges(const Checked& checked, Findings& findings)
+{
+    struct Range
+    {
+        std::string_view requirement;
+        const char* lowest;
+        const char* highest;
+    };
+    constexpr std::array<Range, 3> k_ranges = {
+        {{"/package/requirements/robotRequirement", "minHeadVersion", "maxHeadVersion"},
+         {"/package/requirements/robotRequirement", "minBodyVersion", "maxBodyVersion"},
+         {"/package/requirements/morvoRequirement", "minVersion", "maxVersion"}}};
+    for (const Range& range : k_ranges) {
+        for (const SourceNode requirement : checked.outline.elements(range.requirement)) {
+            const SourceAttribute highest = plainAttribute(requirement, range.highest);
+            const auto min = parseVersion(plainValue(requirement, range.lowest));
+            const auto max = parseVersion(highest.value());
+            if (min && max && isBefore(*max, *min))
+                findings.at(highest, inQuotes(range.highest) + " is below " + inQuotes(range.lowest) +
+                                         ": no version meets the requirement");
+        }
+    }
+}
+
+void findUnknownNatures(const Checked& checked, Findings& findings)
+{
+    const std::vector<std::string_view> known = {BehaviorInfo::natureInteractive(), BehaviorInfo::natureSolitary()};
+    for (const SourceNode nature : checked.outline.elements("/package/contents/behaviorContent/nature")) {
+        const std::string text = nature.textContent();
+        // Padding and emptiness have rules of their own.
+        const std::string_view word = trimmed(text);
+        if (word.empty() || std::find(known.begin(), known.end(), word) != known.end())
+            continue;
+        const std::string_view meant = nearest(word, known);
+        Finding& finding = findings.atContent(nature, inQuotes(word) + " is neither \"interactive\" nor \"solitary\"" +
+                                                          didYouMean(meant));
+        if (!meant.empty())
+            finding.unsafeFix("write " + inQuotes(meant), {{nature.contentRange(), std::string(meant)}});
+    }
+}
+
+void findUnknownPermissions(const Checked& checked, Findings& findings)
+{
+    const auto& supported = BehaviorInfo::supportedPermissions();
+    const std::vector<std::string_view> known(supported.begin(), supported.end());
+    for (const SourceNode permissions : checked.outline.elements("/package/contents/behaviorContent/permissions")) {
+        for (const SourceNode permission : permissions.children()) {
+            if (!permission.isElement() || checked.outline.entry(permission) || !permission.prefix().empty())
+                continue;
+            const std::string_view meant = nearest(permission.name(), known);
+            Finding& finding = findings.at(permission, "no robot knows the permission " + inQuotes(permission.name()) +
+                                                           ", which readers drop" + didYouMean(meant));
+            if (!meant.empty())
+                finding.unsafeFix("call it " + inQuotes(meant), renaming(permission, meant));
+        }
+    }
+}
+
+void findTextsInUserRequestable(const Checked& checked, Findings& findings)
+{
+    for (const SourceNode element : checked.outline.elements("/package/contents/behaviorContent/userRequestable")) {
+        const std::string text = element.textContent();
+        if (isBlank(text))
+            continue;
+        const bool saysNo = meantFlag(text) == "false";
+        Finding& finding = findings.atContent(
+            element, saysNo ? "the behavior is user-requestable all the same: it is not when the element is absent"
+                            : "the text says nothing: the element alone makes the behavior user-requestable");
+        if (saysNo)
+            finding.unsafeFix("remove the element", {removal(checked.document, element)});
+        else
+            finding.safeFix("remove the text", {{element.contentRange(), {}}});
+    }
+}
+
+void findUnreachableSentences(const Checked& checked, Findings& findings)
+{
+    for (const SourceNode behavior : checked.outline.elements(k_behavior)) {
+        const auto sentences = childrenNamed(behavior, "triggerSentences");
+        if (!sentences.empty() && childrenNamed(behavior, "userRequestable").empty())
+            findings.at(sentences.front(), "the behavior is not user-requestable, so that no sentence starts it");
+    }
+}
+
+bool isPadded(std::string_view text) { return !isBlank(text) && trimmed(text).size() != text.size(); }
+
+void findPaddedTexts(const Checked& checked, Findings& findings)
+{
+    for (const SourceNode element : checked.outline.elements()) {
+        const ElementEntry& entry = *checked.outline.entry(element);
+        for (const AttributeEntry& known : entry.attributes) {
+            const SourceAttribute attribute = plainAttribute(element, known.name);
+            // Spaces around a flag make it another flag, which has a rule of its own.
+            if (attribute && known.kind != ValueKind::Flag && isPadded(attribute.value()))
+                findings.at(attribute, "white space around " + inQuotes(known.name) + " is part of it")
+                    .unsafeFix("remove it", {replacement(attribute, trimmed(attribute.value()))});
+        }
+        if (entry.text == ValueKind::None)
+            continue;
+        const std::string text = element.textContent();
+        if (!isPadded(text))
+            continue;
+        Finding& finding =
+            findings.atContent(element, "white space around the text of " + inQuotes(entry.name) + " is part of it");
+        if (!element.firstChild().nextSibling() && element.firstChild().kind() == zu::authoring::NodeKind::Text)
+            finding.unsafeFix("remove it", {{element.contentRange(), escapedText(trimmed(text))}});
+    }
+}
+
+void findBlankTexts(const Checked& checked, Findings& findings)
+{
+    for (const SourceNode element : checked.outline.elements()) {
+        const ElementEntry& entry = *checked.outline.entry(element);
+        if (entry.text == ValueKind::None)
+            continue;
+        const std::string text = element.textContent();
+        if (!text.empty() && isBlank(text))
+            findings.atContent(element, inQuotes(entry.name) + " holds white space alone, which readers drop");
+    }
+}
+
+} // namespace
+
+const std::vector<RuleRow>& valueRules()
+{
+    static const std::vector<RuleRow> rules = {
+        {{"invalid-flag", Severity::Error, "A flag that is not exactly true, 1, false or 0",
+          "Readers take any other text for false, \"TRUE\" and \" true \" included. The fix takes the white space away "
+          "from a flag, so that the manifest reads as it was meant.",
+          ExampleFrame::Package,
+          "<services><service name=\"clock\" execStart=\"bin/clock\" autorun=\"TRUE\"/></services>",
+          "<services><service name=\"clock\" execStart=\"bin/clock\" autorun=\"true\"/></services>", ""},
+         findInvalidFlags},
+        {{"invalid-date", Severity::Warning, "A date that is none, or in another form",
+          "Dates are kept as text. Stores sort by them, which takes year, month and day in this order.",
+          ExampleFrame::RootTag, "<package uuid=\"org.example.hello\" version=\"1.0\" date=\"12.9.2026\">",
+          "<package uuid=\"org.example.hello\" version=\"1.0\" date=\"2026-09-12\">", ""},
+         findInvalidDates},
+        {{"malformed-version", Severity::Error, "A version that cannot be compared",
+          "Versions are numbers parted by dots, with a pre-release behind a hyphen and a build behind a plus sign "
+          "where "
+          "they are wanted. Of two others nobody can tell which is newer.",
+          ExampleFrame::RootTag, "<package uuid=\"org.example.hello\" version=\"v1.0\">",
+          "<package uuid=\"org.example.hello\" version=\"1.0\">", ""},
+         findMalformedVersions},
+        {{"reversed-version-range", Severity::Error, "A lowest version above the highest",
+          "No version meets such a requirement, so that the package can be installed nowhere.", ExampleFrame::Package,
+          "<requirements><morvoRequirement minVersion=\"2.10\" maxVersion=\"2.9\"/></requirements>",
+          "<requirements><morvoRequirement minVersion=\"2.9\" maxVersion=\"2.10\"/></requirements>", ""},
+         findReversedRanges},
+        {{"unknown-nature", Severity::Warning, "A nature that no robot knows",
+          "Readers keep any text; robots look for \"interactive\" and \"solitary\".", ExampleFrame::Contents,
+          "<behaviorContent path=\"wave\"><nature>interactiv</nature></behaviorContent>",
+          "<behaviorContent path=\"wave\"><nature>interactive</nature></behaviorContent>", ""},
+         findUnknownNatures},
+        {{"unknown-permission", Severity::Error, "A permission that no robot knows",
+          "Readers drop it without a word, and the behavior runs without it.", ExampleFrame::Behavior,
+          "<permissions><canFly/></permissions>", "<permissions><canStandUp/></permissions>", ""},
+         findUnknownPermissions},
+        {{"user-requestable-text", Severity::Warning, "A text in userRequestable",
+          "The element itself is the flag: with \"false\" in it the behavior is user-requestable all the same.",
+          ExampleFrame::Behavior, "<userRequestable>false</userRequestable>", "<userRequestable/>", ""},
+         findTextsInUserRequestable},
+        {{"unreachable-sentences", Severity::Warning, "Trigger sentences of a behavior that nobody can request",
+          "Only user-requestable behaviors listen to their sentences.", ExampleFrame::Behavior,
+          "<triggerSentences><sentence lang=\"en\">Wave</sentence></triggerSentences>",
+          "<userRequestable/><triggerSentences><sentence lang=\"en\">Wave</sentence></triggerSentences>", ""},
+         findUnreachableSentences},
+        {{"padded-text", Severity::Warning, "White space around a text",
+          "Readers keep it: \" fr\" is another language than \"fr\", and a name with a line end in it looks odd in a "
+          "list.",
+          ExampleFrame::Package, "<descriptions><description lang=\"en\"> Says hello</description></descriptions>",
+          "<descriptions><description lang=\"en\">Says hello</description></descriptions>", ""},
+         findPaddedTexts},
+        {{"blank-text", Severity::Warning, "A text of white space alone",
+          "Readers drop it, so that the entry is an empty one.", ExampleFrame::Package,
+          "<descriptions><description lang=\"en\"> </description></descriptions>",
+          "<descriptions><description lang=\"en\">Says hello</description></descriptions>", ""},
+         findBlankTexts},
+    };
+    return rules;
+}
+
+} // namespace zupackage::check

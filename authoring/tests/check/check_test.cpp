@@ -1,0 +1,191 @@
+#include "support/files.hpp"
+#include "support/manifests.hpp"
+
+#include <zupackage/authoring/check.hpp>
+#include <zupackage/authoring/rule.hpp>
+#include <zupackage/package_info.hpp>
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+namespace zu::authoring {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::SizeIs;
+
+namespace {
+
+std::vector<std::string> idsOf(const std::vector<Diagnostic>& findings)
+{
+    std::vector<std::string> ids;
+    for (const Diagnostic& finding : findings)
+        ids.push_back(finding.rule);
+    return ids;
+}
+
+const std::string k_faulty = "<package uuid='u' version='one'>\n"
+                             "  <names><name lang='en'>N</name></names>\n"
+                             "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
+                             "  <contents>\n"
+                             "    <behaviorContent path='a'><nature>solitary</nature></behaviorContent>\n"
+                             "    <behaviorContent path='b'><nature>solitary</nature>\n"
+                             "      <permissions><é/><canSitDown/><canSitDown/></permissions></behaviorContent>\n"
+                             "  </contents>\n"
+                             "</package>";
+
+std::string manifestOf(const std::string& bytes)
+{
+    PackageInfo package;
+    EXPECT_TRUE(readManifest(bytes, package));
+    return package.saveToManifestContent();
+}
+
+} // namespace
+
+TEST(Check, FindsAllInTheOrderOfPlaces)
+{
+    const CheckReport report = check(SourceDocument::parse(k_faulty));
+    ASSERT_THAT(idsOf(report.findings), ElementsAre("malformed-version", "unknown-permission", "repeated-permission"));
+    EXPECT_EQ(report.findings[0].message, "\"one\" is no version of the form \"1.2\" or \"1.2.0-beta\"");
+    EXPECT_EQ(report.findings[0].severity, Severity::Error);
+    EXPECT_EQ(report.findings[0].range.path, "/package/@version");
+    EXPECT_EQ(report.findings[0].range.begin, (Place{1, 28}));
+    EXPECT_EQ(report.findings[0].range.end, (Place{1, 31}));
+    EXPECT_EQ(report.findings[2].range.begin, (Place{7, 37}));
+    EXPECT_EQ(report.findings[2].range.path, "/package/contents/behaviorContent[2]/permissions/canSitDown[2]");
+    ASSERT_THAT(report.findings[2].related, SizeIs(1));
+    EXPECT_EQ(report.findings[2].related[0].range.begin, (Place{7, 24}));
+    EXPECT_EQ(report.omitted, 0U);
+}
+
+TEST(Check, FindsThePathsThatTheDocumentGives)
+{
+    const SourceDocument document = SourceDocument::parse(k_faulty);
+    for (const Diagnostic& finding : check(document).findings)
+        EXPECT_TRUE(document.find(finding.range.path) || document.findAttribute(finding.range.path))
+            << finding.range.path;
+}
+
+TEST(Check, RulesHaveTheSeverityThatIsConfigured)
+{
+    CheckOptions options;
+    options.severities["malformed-version"] = Severity::Info;
+    options.severities["repeated-permission"] = std::nullopt;
+    const CheckReport report = check(SourceDocument::parse(k_faulty), options);
+    ASSERT_THAT(idsOf(report.findings), ElementsAre("malformed-version", "unknown-permission"));
+    EXPECT_EQ(report.findings[0].severity, Severity::Info);
+    ASSERT_THAT(idsOf(report.suppressed), ElementsAre("repeated-permission"));
+    EXPECT_EQ(report.suppressed[0].severity, Severity::Warning);
+}
+
+TEST(Check, ReportsUpToTheLimitOfEachRule)
+{
+    std::string files;
+    for (int i = 0; i < 10; ++i)
+        files += "<file path='a'/>";
+    CheckOptions options;
+    options.limitPerRule = 3;
+    const CheckReport report =
+        check(SourceDocument::parse("<package><executableFiles>" + files + "</executableFiles></package>"), options);
+    EXPECT_EQ(std::count_if(report.findings.begin(), report.findings.end(),
+                            [](const Diagnostic& finding) { return finding.rule == "repeated-executable-file"; }),
+              3);
+    EXPECT_EQ(report.omitted, 6U);
+}
+
+TEST(Check, JudgesWhatAnErrorLeaves)
+{
+    const CheckReport report =
+        check(SourceDocument::parse("<package uuid='u' version='one' date='x'><names></package>"));
+    EXPECT_THAT(idsOf(report.findings),
+                testing::IsSupersetOf({"malformed-version", "invalid-date", "not-well-formed"}));
+}
+
+TEST(Check, SaysWhatRobotsMakeOfAnIllFormedDocument)
+{
+    const auto messages = [](const std::string& document) {
+        std::string text;
+        for (const Diagnostic& finding : check(SourceDocument::parse(document)).findings)
+            text += finding.message + "\n";
+        return text;
+    };
+    EXPECT_THAT(messages("<package>"), HasSubstr("; the robot repairs it and reads the manifest all the same\n"));
+    EXPECT_THAT(messages("<package uuid='u' uuid='v'/>"), HasSubstr("; the robot refuses the whole manifest\n"));
+}
+
+TEST(Check, TakesAnyBytes)
+{
+    for (const std::string& bytes :
+         {std::string(), std::string("\0", 1), std::string("\xFF\xFE"), std::string("\xFF\xFE<\0", 4)})
+        EXPECT_THAT(check(SourceDocument::parse(bytes)).findings, SizeIs(testing::Ge(1U)));
+}
+
+TEST(Check, FindsNothingInAnEmptyFolderOfNoPackage)
+{
+    CheckOptions options;
+    options.root = "/no/such/folder";
+    EXPECT_THAT(idsOf(check(SourceDocument::parse(k_faulty), options).findings),
+                testing::Contains("missing-file").Times(2));
+}
+
+TEST(Check, OfTheExamplesFindsTheTextsThatTrimmingDrops)
+{
+    std::vector<std::string> ids;
+    for (const std::filesystem::path& example : test::examplePackages()) {
+        CheckOptions options;
+        options.root = example.string();
+        const CheckReport report = check(SourceDocument::parse(test::readFile(example / "manifest.xml")), options);
+        for (const Diagnostic& finding : report.findings)
+            ids.push_back(example.filename().string() + " " + finding.rule);
+    }
+    EXPECT_THAT(ids, ElementsAre("story-teller undeclared-language", "story-teller trimmed-text"));
+}
+
+TEST(Fixes, ThatAreSafeLeaveThePackageAsItReads)
+{
+    const auto changesThePackage = [](const Rule& rule) {
+        return rule.id == "wide-reference" || rule.id == "invalid-flag";
+    };
+    for (const Rule& rule : rules()) {
+        if (!rule.files.empty() || changesThePackage(rule))
+            continue;
+        const SourceDocument document = SourceDocument::parse(manifestWith(rule, rule.badExample));
+        const std::string fixed = applyFixes(document, check(document).findings, false);
+        const bool isSame = fixed == document.text() || manifestOf(fixed) == manifestOf(document.text());
+        EXPECT_TRUE(isSame) << rule.id;
+    }
+}
+
+TEST(Fixes, OfPaddedFlagsMakeThemWhatWasMeant)
+{
+    const SourceDocument document = SourceDocument::parse("<package installOnlyAtStartup=' true '/>");
+    EXPECT_EQ(applyFixes(document, check(document).findings, false), "<package installOnlyAtStartup='true'/>");
+}
+
+TEST(Fixes, TakeTheLineOfWhatTheyRemove)
+{
+    const std::string before = "<package>\r\n  <contents>\r\n    <behaviorContent path='a'>\r\n      <permissions>\r\n"
+                               "        <canSitDown/>\r\n        <canSitDown/>\r\n      </permissions>";
+    const std::string end = "</behaviorContent></contents></package>";
+    const SourceDocument document = SourceDocument::parse(before + end);
+    std::vector<std::size_t> applied;
+    const auto findings = check(document).findings;
+    EXPECT_EQ(applyFixes(document, findings, false, &applied),
+              "<package>\r\n  <contents>\r\n    <behaviorContent path='a'>\r\n      <permissions>\r\n"
+              "        <canSitDown/>\r\n      </permissions>" +
+                  end);
+    ASSERT_THAT(applied, SizeIs(1));
+    EXPECT_EQ(findings[applied[0]].rule, "repeated-permission");
+}
+
+TEST(Fixes, ThatAreNotSafeWaitUntilTheyAreAskedFor)
+{
+    const SourceDocument document = SourceDocument::parse("<package versoin='1'/>");
+    const auto findings = check(document).findings;
+    EXPECT_EQ(applyFixes(document, findings, false), document.text());
+    EXPECT_EQ(applyFixes(document, findings, true), "<package version='1'/>");
+}
+
+} // namespace zu::authoring
