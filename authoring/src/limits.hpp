@@ -21,6 +21,9 @@ constexpr std::size_t k_multiplyingReferences = 24;
 constexpr std::size_t k_parameterReferences = 2048;
 constexpr int k_parameterExpansion = 4096;
 
+/// Attributes that a document type declares: QXmlStreamReader compares each with each other.
+constexpr std::size_t k_declaredAttributes = 8192;
+
 /// Comparisons of names that are left to QXmlStreamReader; they take about half a second.
 constexpr std::size_t k_steps = std::size_t(1) << 26;
 

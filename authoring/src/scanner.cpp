@@ -26,7 +26,8 @@ Scanner::Scanner(zu::authoring::SourceTree& tree, const std::vector<TextSpan>& i
       m_at(m_text.substr(0, k_byteOrderMarkSize) == k_byteOrderMark ? k_byteOrderMarkSize : 0)
 {
     const auto tags = static_cast<std::size_t>(std::count(m_text.begin(), m_text.end(), '<'));
-    m_tree.nodes.reserve(tags + tags / 2 + 1);
+    // Each can have a text behind it.
+    m_tree.nodes.reserve(2 * tags + 1);
     NodeRecord document;
     document.kind = NodeKind::Document;
     document.range = span(0, m_text.size());

@@ -47,23 +47,41 @@ std::size_t documentTypeEnd(std::size_t begin, std::string_view text)
     return std::string_view::npos;
 }
 
-/// Whether the declarations are few enough that no reader expands them to what takes long.
-bool isHarmless(std::string_view declarations)
+/// What readers could take long for in a document type.
+struct Declarations
 {
-    std::size_t multiplying = 0;
-    std::size_t parameters = 0;
-    for (std::size_t at = declarations.find_first_of("&%"); at != std::string_view::npos;
-         at = declarations.find_first_of("&%", at + 1)) {
-        const bool isNamed = nameEnd(at + 1, declarations) > at + 1;
-        if (declarations[at] == '%') {
-            parameters += isNamed ? 1 : 0;
-            continue;
-        }
-        const Reference reference = referenceAt(at, declarations);
-        const bool isCharacter = !isNamed && reference.kind == ReferenceKind::Character;
-        multiplying += isNamed || (isCharacter && (reference.codePoint == '&' || reference.codePoint == '%')) ? 1 : 0;
+    std::size_t multiplying = 0; ///< references that could multiply each other
+    std::size_t parameters = 0;  ///< references to parameter entities
+    std::size_t attributes = 0;  ///< at most as many are declared
+};
+
+Declarations counted(std::string_view documentType)
+{
+    constexpr std::size_t k_smallestAttribute = 8;
+    Declarations counted;
+    std::size_t quotes = 0;
+    std::size_t hashes = 0;
+    for (std::size_t at = documentType.find_first_of("&%#'\""); at != std::string_view::npos;
+         at = documentType.find_first_of("&%#'\"", at + 1)) {
+        const char c = documentType[at];
+        const bool isNamed = nameEnd(at + 1, documentType) > at + 1;
+        if (c == '#')
+            ++hashes;
+        else if (c == '%')
+            counted.parameters += isNamed ? 1 : 0;
+        else if (c != '&')
+            ++quotes;
+        else if (const Reference reference = referenceAt(at, documentType);
+                 isNamed || reference.codePoint == '&' || reference.codePoint == '%')
+            ++counted.multiplying;
     }
-    return multiplying <= limits::k_multiplyingReferences && parameters <= limits::k_parameterReferences;
+    if (counted.parameters == 0 && documentType.find("<!ATTLIST") == std::string_view::npos)
+        return counted;
+    // Each has a default, in quotes or by a word behind a hash; each parameter entity can hold some.
+    const std::size_t written = hashes + quotes / 2;
+    counted.attributes = written + counted.parameters * std::min<std::size_t>(written, limits::k_parameterExpansion /
+                                                                                           k_smallestAttribute);
+    return counted;
 }
 
 } // namespace
@@ -174,18 +192,20 @@ bool Scanner::scanDocumentType()
 
 void Scanner::readDocumentType(TextSpan span)
 {
-    // Among what is written of an attribute are two blanks, a type of two letters, and a default.
-    constexpr std::size_t k_smallestAttribute = 8;
-    const std::string_view declarations = textIn(span, m_text);
-    if (!isHarmless(declarations)) {
+    const Declarations declarations = counted(textIn(span, m_text));
+    if (declarations.multiplying > limits::k_multiplyingReferences ||
+        declarations.parameters > limits::k_parameterReferences) {
         add("more references in a document type than are read", span, Kind::Limit);
         return;
     }
+    if (declarations.attributes > limits::k_declaredAttributes) {
+        add("more attributes declared in a document type than are read", span, Kind::Limit);
+        return;
+    }
+    m_declaredAttributes = declarations.attributes;
     // It would stop where an error has been found.
     if (!m_findings.areEmpty())
         return;
-    if (declarations.find('%') != std::string_view::npos || declarations.find("<!ATTLIST") != std::string_view::npos)
-        m_declaredAttributes = declarations.size() / k_smallestAttribute;
     const std::size_t begin = m_tree.nodes.front().content.begin;
     m_strictReader = std::make_unique<StrictReader>(m_text.substr(begin));
     if (const auto failure = m_strictReader->readDocumentType()) {

@@ -111,6 +111,16 @@ TEST(SourceDocumentLimits, WhatQXmlStreamReaderTakesLongForIsRefusedBehindADocum
               "more attributes and namespaces behind a document type than are read");
 }
 
+TEST(SourceDocumentLimits, ManyDeclaredAttributesAreRefused)
+{
+    const auto attributes = [](std::size_t count) { return numbered(count, "<!ATTLIST p a", " CDATA #IMPLIED>"); };
+    EXPECT_EQ(refusal(documentType(attributes(1000)) + "<p/>"), "");
+    const std::string tooMany = "more attributes declared in a document type than are read";
+    EXPECT_EQ(refusal(documentType(attributes(10'000)) + "<p/>"), tooMany);
+    EXPECT_EQ(refusal(documentType("<!ENTITY % e \"" + attributes(20) + "\">" + repeated(1000, "%e;")) + "<p/>"),
+              tooMany);
+}
+
 TEST(SourceDocumentLimits, ASmallStackIsEnough)
 {
     const auto parseAll = [](void*) -> void* {
