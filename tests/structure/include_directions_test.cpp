@@ -62,7 +62,7 @@ const std::vector<Rule> k_rules = {
      {"bench/", k_authoring, k_package, k_framework, "QtCore/", "QtXml/", "benchmark/", "boost/", "nlohmann/", "std/"}},
     {"fuzz/", {"fuzz/", "tests/support/", k_package, k_framework, "std/"}},
     {"examples/api/", {k_package, k_framework, "std/"}},
-    {"tests/consumer/", {k_package, k_framework, "std/"}},
+    {"tests/consumer/", {k_authoring, k_package, k_framework, "std/"}},
     {"tests/loading/", {"tests/", k_package, k_framework, "gmock/", "gtest/", "std/"}},
     {"tests/cli/", {"tests/", "QtCore/", "gmock/", "gtest/", "std/"}},
     {"tests/",
