@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <rapidcheck.h>
@@ -18,13 +19,13 @@ inline int propertyPercent()
     return percent ? std::stoi(percent) : 100;
 }
 
-/// Checks a property on `count` generated inputs, or the propertyPercent() of them, and prints the seed; with
-/// RC_PARAMS="seed=..." in the environment the same inputs come again. A failure shows the smallest counterexample.
+/// Checks a property on `count` generated inputs, or the propertyPercent() of them, but 20 at least, and prints the seed;
+/// with RC_PARAMS="seed=..." in the environment the same inputs come again. A failure shows the smallest counterexample.
 /// @return the number of inputs that it was checked on.
 template <class Property>
 int checkProperty(int count, Property&& property)
 {
-    count = count * propertyPercent() / 100;
+    count = std::max(std::min(count, 20), count * propertyPercent() / 100);
     namespace detail = rc::detail;
     const testing::TestInfo& test = *testing::UnitTest::GetInstance()->current_test_info();
     detail::TestParams params = detail::configuration().testParams;
