@@ -19,8 +19,9 @@ inline int propertyPercent()
     return percent ? std::stoi(percent) : 100;
 }
 
-/// Checks a property on `count` generated inputs, or the propertyPercent() of them, but 20 at least, and prints the seed;
-/// with RC_PARAMS="seed=..." in the environment the same inputs come again. A failure shows the smallest counterexample.
+/// Checks a property on `count` generated inputs, or the propertyPercent() of them, but 20 at least, and prints the
+/// seed; with RC_PARAMS="seed=..." in the environment the same inputs come again. A failure shows the smallest
+/// counterexample.
 /// @return the number of inputs that it was checked on.
 template <class Property>
 int checkProperty(int count, Property&& property)
