@@ -52,6 +52,14 @@ void Entities::step(bool inAttribute, std::string& text)
         return;
     }
     const std::size_t at = expansion.at;
+    std::size_t end = at;
+    while (end < source.size() && !isOf(StopsValue, source[end]))
+        ++end;
+    if (end > at) {
+        text += source.substr(at, end - at);
+        expansion.at = end;
+        return;
+    }
     const char c = source[at];
     if (c != '&') {
         m_hasMarkup = m_hasMarkup || c == '<';

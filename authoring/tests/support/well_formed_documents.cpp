@@ -83,7 +83,7 @@ std::string content(int levels)
     for (int count = upTo(4); count > 0; --count) {
         const std::string next = node(levels);
         // Two texts must not meet in the end of a CDATA section.
-        content += !content.empty() && content.back() == ']' && next.front() != '<' ? "<!---->" + next : next;
+        content += !content.empty() && content.back() == ']' && next.substr(0, 1) != "<" ? "<!---->" + next : next;
     }
     return content;
 }
