@@ -137,18 +137,18 @@ void Scanner::checkNamespaces(const NodeRecord& element)
     checkExpandedNames(element);
 }
 
-void Scanner::checkPrefix(TextSpan span)
+void Scanner::checkPrefix(TextSpan name)
 {
-    const std::string_view name = textIn(span, m_text);
-    const std::size_t colon = name.find(':');
+    const std::string_view text = textIn(name, m_text);
+    const std::size_t colon = text.find(':');
     if (colon == std::string_view::npos)
         return;
-    const std::string_view local = name.substr(colon + 1);
+    const std::string_view local = text.substr(colon + 1);
     if (colon == 0 || local.find(':') != std::string_view::npos || local.empty() || nameEnd(0, local) != local.size())
-        add(quoted(name) + " is no name with a prefix", span, Kind::Namespace);
+        add(quoted(text) + " is no name with a prefix", name, Kind::Namespace);
     // A document type can declare it, too.
-    else if (!m_hasDocumentType && !m_namespaces.uri(name.substr(0, colon)))
-        add("the namespace prefix " + quoted(name.substr(0, colon)) + " is not declared", span, Kind::Namespace);
+    else if (!m_hasDocumentType && !m_namespaces.uri(text.substr(0, colon)))
+        add("the namespace prefix " + quoted(text.substr(0, colon)) + " is not declared", name, Kind::Namespace);
 }
 
 /// Attributes of one name in one namespace, by way of two prefixes.
