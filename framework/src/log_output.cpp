@@ -1,3 +1,5 @@
+#include "escaped.hpp"
+
 #include <zu/log.hpp>
 
 #include <spdlog/logger.h>
@@ -9,40 +11,11 @@ namespace zu::log {
 
 namespace {
 
-void appendEscaped(std::string& line, char control)
-{
-    static constexpr char k_digits[] = "0123456789abcdef";
-    switch (control) {
-    case '\n':
-        line += "\\n";
-        break;
-    case '\r':
-        line += "\\r";
-        break;
-    default:
-        line += "\\x";
-        line += k_digits[(static_cast<unsigned char>(control) >> 4) & 0xf];
-        line += k_digits[static_cast<unsigned char>(control) & 0xf];
-    }
-}
-
-bool isControl(char c)
-{
-    const auto byte = static_cast<unsigned char>(c);
-    return (byte < 0x20 && c != '\t') || byte == 0x7f;
-}
-
 std::string lineOf(const Record& record)
 {
     std::string line = "[";
     line.append(levelName(record.level)).append("] ").append(record.category).append(": ");
-    line.reserve(line.size() + record.message.size());
-    for (const char c : record.message) {
-        if (isControl(c))
-            appendEscaped(line, c);
-        else
-            line += c;
-    }
+    detail::appendEscaped(line, record.message);
     return line;
 }
 

@@ -123,8 +123,9 @@ ZU_EXPORT HandlerId addHandler(Handler handler);
 ZU_EXPORT bool removeHandler(HandlerId id);
 
 /// Makes a handler that writes "[level] category: message" as one line to standard error. Control characters of the
-/// message are written as escapes ("\n", "\x1b"), so that a record is one line whatever it holds and cannot steer a
-/// terminal. To get the default output back after its removal, add this one.
+/// message but for the tab, those that override the direction of writing, and bytes that are no UTF-8 are written as
+/// escapes ("\n", "\x1b", "\u202e"), so that a record is one line whatever it holds and cannot steer a terminal. To get
+/// the default output back after its removal, add this one.
 ZU_EXPORT Handler standardErrorHandler();
 
 } // namespace zu::log
