@@ -101,8 +101,8 @@ public:
     PackageInfo(const VX::VXValue& value); // NOLINT(google-explicit-constructor): callers are used to it
     /// The same package in the list-based model. The values in `package.elements` are converted where they are of other
     /// types, and what is absent stays empty. descriptionLanguages() is empty, web content and unknown keys are left
-    /// out, and a language that is supported twice is there once. Throws ConversionError when one of the values does
-    /// not convert, an empty AnyValue included.
+    /// out, and a language that is supported twice is there once. Throws ConversionError, which tells the way to it
+    /// from its key on, when one of the values does not convert, an empty AnyValue included.
     PackageInfo(const PackageInfo2& package); // NOLINT(google-explicit-constructor): callers are used to it
     ~PackageInfo();
 

@@ -37,9 +37,9 @@ T& madeOrDemanded(Values& values, Key<T> key)
 }
 
 /// Calls `use` with the value under `key` as a T, converted where it is of another type; does nothing when there is
-/// none.
-template <class T, class Use>
-void withValue(const Values& values, Key<T> key, Use use)
+/// none, and calls `fail` with what does not convert.
+template <class T, class Use, class Fail>
+void withValue(const Values& values, Key<T> key, Use use, Fail fail)
 {
     const auto place = values.find(key.name);
     if (place == values.end())
@@ -50,7 +50,7 @@ void withValue(const Values& values, Key<T> key, Use use)
     else if (const std::optional<T> converted = stored.tryTo<T>())
         use(*converted);
     else
-        zu::throwConversionFailure(stored.type(), zu::typeOf<T>());
+        fail(stored);
 }
 
 /// Makes `list` the elements of a vector.
@@ -60,11 +60,19 @@ auto into(std::list<T>& list)
     return [&list](const std::vector<T>& values) { list.assign(values.begin(), values.end()); };
 }
 
+/// Throws an error that names the types alone.
+template <class T>
+[[noreturn]] void failFor(const zu::AnyValue& stored)
+{
+    zu::throwConversionFailure(stored.type(), zu::typeOf<T>());
+}
+
 template <class T>
 T valueOf(const Values& values, Key<T> key)
 {
     T copy;
-    withValue(values, key, [&copy](const T& value) { copy = value; });
+    withValue(
+        values, key, [&copy](const T& value) { copy = value; }, &failFor<T>);
     return copy;
 }
 
@@ -72,8 +80,25 @@ template <class T>
 T contentOf(const zu::PackageInfo2& package, Key<T> key)
 {
     T copy;
-    withValue(package.elements, keys::k_contents, [&](const Values& contents) { copy = valueOf(contents, key); });
+    withValue(
+        package.elements, keys::k_contents, [&](const Values& contents) { copy = valueOf(contents, key); },
+        &failFor<Values>);
     return copy;
+}
+
+/// Calls `use` like withValue(). What does not convert is an error that tells the way to it, which begins with `path`:
+/// `["contents"]["behaviors"][1].path`.
+template <class T, class Use>
+void take(const Values& values, Key<T> key, Use use, const std::string& path = {})
+{
+    withValue(values, key, use, [&](const zu::AnyValue& stored) {
+        T target;
+        zu::ConversionFailure failure;
+        if (!tryConvert(stored, zu::AnyReference::from(target), &failure)) {
+            failure.path.insert(0, path + "[\"" + key.name + "\"]");
+            throw zu::ConversionError(failure);
+        }
+    });
 }
 
 /// Fills a fresh package.
@@ -86,23 +111,24 @@ void fill(zu::PackageInfoPrivate& record, const zu::PackageInfo2& package)
     record.path = package.path;
     record.installOnlyAtStartup = package.installOnlyAtStartup;
     const Values& elements = package.elements;
-    withValue(elements, keys::k_names, [&record](const Texts& names) { record.langToName = names; });
-    withValue(elements, keys::k_descriptions, [&record](const Texts& texts) { record.langToDesc = texts; });
-    withValue(elements, keys::k_services, into(record.services));
-    withValue(elements, keys::k_executableFiles, into(record.executableFiles));
-    withValue(elements, keys::k_requirements, [&record](const Requirements& requirements) {
+    take(elements, keys::k_names, [&record](const Texts& names) { record.langToName = names; });
+    take(elements, keys::k_descriptions, [&record](const Texts& texts) { record.langToDesc = texts; });
+    take(elements, keys::k_services, into(record.services));
+    take(elements, keys::k_executableFiles, into(record.executableFiles));
+    take(elements, keys::k_requirements, [&record](const Requirements& requirements) {
         into(record.robotRequirements)(requirements.first);
         into(record.morvoRequirements)(requirements.second);
     });
-    withValue(elements, keys::k_supportedLanguages, [&record](const auto& languages) {
+    take(elements, keys::k_supportedLanguages, [&record](const auto& languages) {
         OnceAppender appender(record.supportedLanguages);
         for (const std::string& lang : languages)
             appender.append(lang);
     });
-    withValue(elements, keys::k_contents, [&record](const Values& contents) {
-        withValue(contents, keys::k_behaviors, into(record.behaviors));
-        withValue(contents, keys::k_dialogs, into(record.dialogs));
-        withValue(contents, keys::k_languages, into(record.languages));
+    take(elements, keys::k_contents, [&record](const Values& contents) {
+        const std::string path = std::string("[\"") + keys::k_contents.name + "\"]";
+        take(contents, keys::k_behaviors, into(record.behaviors), path);
+        take(contents, keys::k_dialogs, into(record.dialogs), path);
+        take(contents, keys::k_languages, into(record.languages), path);
     });
 }
 

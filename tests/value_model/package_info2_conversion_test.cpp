@@ -153,4 +153,35 @@ TEST(PackageFromValue, FailsForEveryElementThatDoesNotConvert)
     }
 }
 
+TEST(PackageFromValue, TellsTheWayToWhatDoesNotConvert)
+{
+    const auto errorOf = [](const PackageInfo2& source) {
+        try {
+            const PackageInfo package(source);
+        } catch (const ConversionError& error) {
+            return std::string(error.what());
+        }
+        return std::string("nothing was thrown");
+    };
+    PackageInfo2 source;
+    source.elements["services"] = AnyValue::from(1);
+    EXPECT_EQ(errorOf(source), "Cannot convert int to std::vector<zu::PackageService> at [\"services\"]");
+    source.elements["services"] = AnyValue::from(std::vector<AnyValue>{AnyValue::from(PackageService()), AnyValue()});
+    EXPECT_EQ(errorOf(source), "Cannot convert std::vector<zu::AnyValue> to std::vector<zu::PackageService> at "
+                               "[\"services\"][1]: there is no value");
+    source.elements.clear();
+    source.contents()["dialogs"] = AnyValue::from(std::vector<std::map<std::string, std::string>>(1));
+    EXPECT_EQ(errorOf(source), "Cannot convert std::vector<std::map<std::string, std::string>> to "
+                               "std::vector<zu::DialogInfo> at [\"contents\"][\"dialogs\"][0]: there is no value for "
+                               "the member topicName");
+    EXPECT_THROW(source.dialogs(), std::runtime_error);
+    try {
+        std::as_const(source).dialogs();
+        FAIL();
+    } catch (const ConversionError& error) {
+        EXPECT_EQ(error.failure().path, "");
+        EXPECT_EQ(error.failure().reason, "");
+    }
+}
+
 } // namespace zu
