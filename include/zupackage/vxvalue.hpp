@@ -306,9 +306,10 @@ public:
     /// | Unknown, Object, Pointer, Iterator, Optional | refused                                                       |
     ///
     /// An empty reference becomes Invalid, with a warning to the same category; what is of a kind that is not in the
-    /// table becomes Invalid silently. Refused are also a tuple with another number of names than of members, and
-    /// containers nested deeper than zu::k_maxNesting levels. What is refused throws VXError; `value` is then as it
-    /// was.
+    /// table becomes Invalid silently. A shared pointer to an object is refused as that object; a null one as a
+    /// pointer, for there is no object to take. Refused are also a tuple with another number of names than of members,
+    /// and containers nested deeper than zu::k_maxNesting levels. What is refused throws VXError; `value` is then as
+    /// it was.
     void set(void* value, const zu::AnyReference& source) const override;
 };
 
