@@ -86,7 +86,7 @@ std::size_t AnyReferenceBase::size() const
     if (kind() == TypeKind::Map)
         return as<MapTypeInterface>(*this).size(m_address);
     if (kind() == TypeKind::Tuple)
-        return as<StructTypeInterface>(*this).memberTypes().size();
+        return as<StructTypeInterface>(*this).memberCount();
     throwUnfit("size()", *this, "a list, a map, variable arguments or a tuple");
 }
 

@@ -61,6 +61,8 @@ bool DynamicTypeInterface::ownsContent() const noexcept { return true; }
 
 void ListTypeInterface::appendMoved(void* list, void* element) const { append(list, element); }
 
+std::size_t StructTypeInterface::memberCount() const { return memberTypes().size(); }
+
 namespace detail {
 
 void reportStorageFailure(const TypeInterface& type)

@@ -30,6 +30,7 @@ public:
     const std::string& className() const override { return m_className; }
     const std::vector<std::string>& elementsName() const override { return recordType().elementsName(); }
     std::vector<const TypeInterface*> memberTypes() const override { return recordType().memberTypes(); }
+    std::size_t memberCount() const override { return recordType().memberCount(); }
 
     /// Throws std::runtime_error, like everything that needs the record, when the object has none.
     AnyReference element(void* object, std::size_t index) const override

@@ -5,7 +5,7 @@
 #include <zu/type/struct.hpp>
 #include <zu/value/any_reference.hpp>
 
-#include <functional>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <utility>
@@ -21,21 +21,31 @@ public:
     /// Implicit, so that a list of members reads {{"x", &Point::x}, {"y", &Point::y}}.
     template <class M, class Class>
     Member(std::string name, M Class::*member)
-        : m_name(std::move(name)), m_type(&typeOf<M>),
-          m_reference([member](T& object) { return AnyReference::from(object.*member); })
+        : m_name(std::move(name)), m_type(&typeOf<M>), m_reference(&Member::template reference<M, Class>)
     {
         static_assert(std::is_object_v<M>, "a member of a struct is data");
         static_assert(std::is_base_of_v<Class, T>, "the member is another class's");
+        static_assert(sizeof member == sizeof m_pointer);
+        std::memcpy(m_pointer, &member, sizeof member);
     }
 
     const std::string& name() const noexcept { return m_name; }
     const TypeInterface* type() const { return m_type(); }
-    AnyReference of(T& object) const { return m_reference(object); }
+    AnyReference of(T& object) const { return m_reference(*this, object); }
 
 private:
+    template <class M, class Class>
+    static AnyReference reference(const Member& self, T& object)
+    {
+        M Class::*member;
+        std::memcpy(&member, self.m_pointer, sizeof member);
+        return AnyReference::from(object.*member);
+    }
+
     std::string m_name;
     const TypeInterface* (*m_type)();
-    std::function<AnyReference(T&)> m_reference;
+    AnyReference (*m_reference)(const Member& self, T& object);
+    unsigned char m_pointer[sizeof(int T::*)]; ///< the pointer to the member, whose type m_reference knows
 };
 
 /// What the type system is told about a struct: its class name, used exactly as it is, and its members in order.
@@ -91,6 +101,8 @@ public:
             types.push_back(member.type());
         return types;
     }
+
+    std::size_t memberCount() const override { return m_names.size(); }
 
     AnyReference element(void* object, std::size_t index) const override
     {

@@ -24,6 +24,7 @@ public:
     const std::string& className() const override { return noName(); }
     const std::vector<std::string>& elementsName() const override { return noNames(); }
     std::vector<const TypeInterface*> memberTypes() const override { return types(Indices()); }
+    std::size_t memberCount() const override { return std::tuple_size_v<T>; }
     AnyReference element(void* object, std::size_t index) const override { return values(object)[index]; }
     std::vector<AnyReference> values(void* object) const override
     {
@@ -47,6 +48,7 @@ public:
     const std::string& className() const override { return noName(); }
     const std::vector<std::string>& elementsName() const override { return noNames(); }
     std::vector<const TypeInterface*> memberTypes() const override { return {typeOf<A>(), typeOf<B>()}; }
+    std::size_t memberCount() const override { return 2; }
     AnyReference element(void* object, std::size_t index) const override
     {
         auto& pair = this->object(object);

@@ -23,6 +23,9 @@ public:
     /// than the struct itself.
     virtual std::vector<const TypeInterface*> memberTypes() const = 0;
 
+    /// The number of the members.
+    virtual std::size_t memberCount() const;
+
     /// The member at `index`, less than the number of members, in `object`; for reading only when it is const there.
     virtual AnyReference element(void* object, std::size_t index) const = 0;
 
