@@ -1,3 +1,5 @@
+#include "kinds.hpp"
+
 #include <zu/any_reference.hpp>
 #include <zu/type/dynamic.hpp>
 #include <zu/type/int.hpp>
@@ -12,6 +14,9 @@
 #include <stdexcept>
 
 namespace zu {
+
+using detail::as;
+using detail::isListLike;
 
 namespace {
 
@@ -36,15 +41,6 @@ AnyReference markedAs(const AnyReferenceBase& whole, const AnyReference& part)
 AnyIterator markedAs(const AnyReferenceBase& whole, AnyIterator iterator)
 {
     return whole.isReadOnly() ? std::move(iterator).readOnly() : iterator;
-}
-
-bool isListLike(TypeKind kind) { return kind == TypeKind::List || kind == TypeKind::VarArgs; }
-
-/// The interface of a reference whose kind has been looked at.
-template <class Interface>
-const Interface& as(const AnyReferenceBase& reference)
-{
-    return static_cast<const Interface&>(*reference.type());
 }
 
 const char* const k_iterable = "a list, a map or variable arguments";

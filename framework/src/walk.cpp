@@ -1,20 +1,18 @@
+#include "kinds.hpp"
+
 #include <zu/type/dynamic.hpp>
 #include <zu/walk.hpp>
 
 namespace zu {
+
+using detail::isContainer;
+using detail::isWrapper;
 
 namespace {
 
 static_assert(k_maxNesting == 64 && k_maxRepeatedParts == 100'000, "the numbers stand in the texts below");
 constexpr char k_tooDeep[] = "the value is nested deeper than 64 levels";
 constexpr char k_tooMany[] = "the value refers to parts of itself in more than 100000 ways";
-
-bool isContainer(TypeKind kind)
-{
-    return kind == TypeKind::List || kind == TypeKind::Map || kind == TypeKind::Tuple || kind == TypeKind::VarArgs;
-}
-
-bool isWrapper(TypeKind kind) { return kind == TypeKind::Dynamic || kind == TypeKind::Optional; }
 
 bool refersToContent(const TypeInterface& type)
 {
