@@ -59,7 +59,9 @@ bool StringTypeInterface::isView() const noexcept { return false; }
 
 bool DynamicTypeInterface::ownsContent() const noexcept { return true; }
 
-void ListTypeInterface::appendMoved(void* list, void* element) const { append(list, element); }
+bool ListTypeInterface::hasFixedSize() const noexcept { return false; }
+
+bool ListTypeInterface::appendMoved(void* list, void* element) const { return append(list, element); }
 
 std::size_t StructTypeInterface::memberCount() const { return memberTypes().size(); }
 

@@ -21,7 +21,8 @@
 /// | Int, Float                   | Int, Float                   | when the target's range has the number; see below |
 /// | String                       | String                       | the bytes                                         |
 /// | Raw                          | Raw                          | the bytes                                         |
-/// | List                         | List                         | element by element                                |
+/// | List                         | List                         | element by element; as many as an array has, and  |
+/// |                              |                              | for a set no two may become one                   |
 /// | Map                          | Map                          | entry by entry, keys too; no two may become one   |
 /// | Tuple                        | Tuple                        | by name when both have names, each having the     |
 /// |                              |                              | other's; else by position, in equal number        |

@@ -4,6 +4,8 @@
 #include <zu/native/position.hpp>
 #include <zu/type/list.hpp>
 
+#include <deque>
+#include <iterator>
 #include <list>
 #include <utility>
 #include <vector>
@@ -40,9 +42,11 @@ struct Elements<VarArguments<T>>
     static const std::vector<T>& of(const VarArguments<T>& list) { return list.args(); }
 };
 
+/// What all lists can do; what comes and goes is left to those that derive from it.
 template <class T, class Interface>
-class NativeSequence final : public Native<T, Interface>
+class NativeList : public Native<T, Interface>
 {
+protected:
     using Container = std::remove_reference_t<decltype(Elements<T>::of(std::declval<T&>()))>;
     using Element = typename Container::value_type;
 
@@ -67,31 +71,44 @@ public:
         return true;
     }
 
-    void append(void* list, const void* element) const override
-    {
-        if constexpr (isCopyable<Element>)
-            elements(list).push_back(*static_cast<const Element*>(element));
-        else
-            throwNotCopyable(*elementType());
-    }
-    void appendMoved(void* list, void* element) const override
-    {
-        if constexpr (std::is_move_constructible_v<Element>)
-            elements(list).push_back(std::move(*static_cast<Element*>(element)));
-        else
-            append(list, element);
-    }
+protected:
+    static auto& elements(void* list) { return Elements<T>::of(NativeList::object(list)); }
+    static const auto& elements(const void* list) { return Elements<T>::of(NativeList::object(list)); }
 
 private:
-    static auto& elements(void* list) { return Elements<T>::of(NativeSequence::object(list)); }
-    static const auto& elements(const void* list) { return Elements<T>::of(NativeSequence::object(list)); }
-
     static AnyReference reference(const TypeInterface* type, const Element& element)
     {
         if constexpr (std::is_same_v<Container, std::vector<bool>>)
             return bitReference(element);
         else
             return AnyReference(type, static_cast<const void*>(std::addressof(element)));
+    }
+};
+
+/// std::vector, std::list, std::deque.
+template <class T, class Interface>
+class NativeSequence final : public NativeList<T, Interface>
+{
+    using Base = NativeList<T, Interface>;
+    using Element = typename Base::Element;
+    using Base::elements;
+
+public:
+    bool append(void* list, const void* element) const override
+    {
+        if constexpr (isCopyable<Element>)
+            elements(list).push_back(*static_cast<const Element*>(element));
+        else
+            throwNotCopyable(*this->elementType());
+        return true;
+    }
+    bool appendMoved(void* list, void* element) const override
+    {
+        if constexpr (std::is_move_constructible_v<Element>)
+            elements(list).push_back(std::move(*static_cast<Element*>(element)));
+        else
+            append(list, element);
+        return true;
     }
 };
 
@@ -105,6 +122,11 @@ struct NativeType<std::vector<T, Allocator>>
 template <class T, class Allocator>
 struct NativeType<std::list<T, Allocator>>
     : detail::MadeAs<detail::NativeSequence<std::list<T, Allocator>, ListTypeInterface>>
+{
+};
+template <class T, class Allocator>
+struct NativeType<std::deque<T, Allocator>>
+    : detail::MadeAs<detail::NativeSequence<std::deque<T, Allocator>, ListTypeInterface>>
 {
 };
 template <class T>

@@ -5,6 +5,7 @@
 #include <zu/type/map.hpp>
 
 #include <map>
+#include <unordered_map>
 #include <utility>
 
 namespace zu {
@@ -53,6 +54,12 @@ public:
 template <class K, class V, class Compare, class Allocator>
 struct NativeType<std::map<K, V, Compare, Allocator>>
     : detail::MadeAs<detail::NativeMap<std::map<K, V, Compare, Allocator>>>
+{
+};
+
+template <class K, class V, class Hash, class Equal, class Allocator>
+struct NativeType<std::unordered_map<K, V, Hash, Equal, Allocator>>
+    : detail::MadeAs<detail::NativeMap<std::unordered_map<K, V, Hash, Equal, Allocator>>>
 {
 };
 

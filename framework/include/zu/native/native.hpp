@@ -3,12 +3,15 @@
 #include <zu/type/type_interface.hpp>
 
 #include <cstdint>
+#include <deque>
 #include <list>
 #include <map>
 #include <new>
 #include <optional>
+#include <set>
 #include <tuple>
 #include <type_traits>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -29,8 +32,20 @@ template <class T, class A>
 struct IsCopyable<std::list<T, A>> : IsCopyable<T>
 {
 };
+template <class T, class A>
+struct IsCopyable<std::deque<T, A>> : IsCopyable<T>
+{
+};
+template <class T, class C, class A>
+struct IsCopyable<std::set<T, C, A>> : IsCopyable<T>
+{
+};
 template <class K, class V, class C, class A>
 struct IsCopyable<std::map<K, V, C, A>> : std::conjunction<IsCopyable<K>, IsCopyable<V>>
+{
+};
+template <class K, class V, class H, class E, class A>
+struct IsCopyable<std::unordered_map<K, V, H, E, A>> : std::conjunction<IsCopyable<K>, IsCopyable<V>>
 {
 };
 template <class A, class B>

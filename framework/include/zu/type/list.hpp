@@ -2,9 +2,11 @@
 
 #include <zu/type/type_interface.hpp>
 
+#include <cstddef>
+
 namespace zu {
 
-/// Sequences of elements of one type.
+/// Elements of one type in some order: sequences, arrays, sets.
 class ZU_EXPORT ListTypeInterface : public TypeInterface
 {
 public:
@@ -27,11 +29,15 @@ public:
     /// @return false when `visit` ended the walk.
     virtual bool forEach(const void* list, Visit visit, void* context) const = 0;
 
-    /// Appends a copy of `element`, a value of elementType().
-    virtual void append(void* list, const void* element) const = 0;
+    /// Whether the number of elements never changes, as in an array.
+    virtual bool hasFixedSize() const noexcept;
+
+    /// Appends a copy of `element`, a value of elementType(); a set puts it at its place.
+    /// @return false, and nothing is done, when the list takes no more or is a set that has the element.
+    virtual bool append(void* list, const void* element) const = 0;
 
     /// Like append(), and may leave `element` moved from.
-    virtual void appendMoved(void* list, void* element) const;
+    virtual bool appendMoved(void* list, void* element) const;
 
 protected:
     explicit ListTypeInterface(const TypeInfo& info, std::size_t wordSize = 0, TypeKind kind = TypeKind::List)
