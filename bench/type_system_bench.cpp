@@ -220,6 +220,7 @@ std::vector<bench::Target> targets()
             {"struct/AnyValue", "struct/QVariant", 0},
             {"typeOf/cached", "typeOf/atomic load", 3.0},
             {"iterate 1000 ints/AnyIterator", "iterate 1000 ints/direct", 0},
+            {"iterate 1000 ints/AnyIterator", "iterate 1000 ints/by index", 1.0},
             {"vector to list/1/convert", "vector to list/1/copy", 0},
             {"vector to list/10/convert", "vector to list/10/copy", 0},
             {"vector to list/100/convert", "vector to list/100/copy", 0},

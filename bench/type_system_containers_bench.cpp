@@ -45,6 +45,19 @@ void iterateDirectly(benchmark::State& state)
 }
 BENCHMARK(iterateDirectly)->Name("iterate 1000 ints/direct");
 
+void iterateByIndex(benchmark::State& state)
+{
+    const std::vector<int> list = ints();
+    const zu::AnyReference reference = zu::AnyReference::from(list);
+    for (auto _ : state) {
+        std::int64_t sum = 0;
+        for (std::size_t i = 0; i != list.size(); ++i)
+            sum += reference._element(i).toInt();
+        benchmark::DoNotOptimize(sum);
+    }
+}
+BENCHMARK(iterateByIndex)->Name("iterate 1000 ints/by index");
+
 void iterateByKind(benchmark::State& state)
 {
     const std::vector<int> list = ints();

@@ -1,4 +1,5 @@
 #include <zu/any_iterator.hpp>
+#include <zu/native/position.hpp>
 #include <zu/type/iterator.hpp>
 
 #include <stdexcept>
@@ -6,10 +7,15 @@
 
 namespace zu {
 
-AnyIterator::AnyIterator(AnyValue position, bool readOnly) : m_position(std::move(position)), m_readOnly(readOnly)
+AnyIterator::AnyIterator(AnyValue position, bool readOnly)
 {
-    if (m_position.kind() != TypeKind::Iterator)
+    if (position.kind() != TypeKind::Iterator)
         throw std::runtime_error("an iterator is made of a position only");
+    if (auto* iterator = position.getIf<AnyIterator>())
+        *this = std::move(*iterator);
+    else
+        m_position = std::move(position);
+    m_readOnly |= readOnly;
 }
 
 const IteratorTypeInterface& AnyIterator::positionType() const
@@ -24,26 +30,20 @@ void* AnyIterator::state() const
     return const_cast<void*>(m_position.address());
 }
 
-AnyReference AnyIterator::operator*() const
+AnyReference AnyIterator::elementAtPosition() const
 {
     void* const position = state();
     const AnyReference element = positionType().dereference(position);
     return m_readOnly ? element.readOnly() : element;
 }
 
-AnyIterator& AnyIterator::operator++()
+void AnyIterator::advancePosition()
 {
     void* const position = state();
     positionType().next(position);
-    return *this;
 }
 
-AnyIterator AnyIterator::operator++(int)
-{
-    AnyIterator before = *this;
-    ++*this;
-    return before;
-}
+AnyValue AnyIterator::position() const { return *this == AnyIterator() ? AnyValue() : AnyValue::from(*this); }
 
 AnyIterator AnyIterator::readOnly() const& { return AnyIterator(*this).readOnly(); }
 
@@ -55,6 +55,10 @@ AnyIterator AnyIterator::readOnly() &&
 
 bool AnyIterator::equals(const AnyIterator& other) const
 {
+    if (m_elementType && other.m_elementType)
+        return m_elementType->info() == other.m_elementType->info() && m_current == other.m_current;
+    if (m_elementType || other.m_elementType)
+        return false;
     if (m_position.isEmpty() || other.m_position.isEmpty())
         return m_position.isEmpty() == other.m_position.isEmpty();
     const TypeInterface* type = m_position.type();

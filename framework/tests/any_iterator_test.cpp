@@ -96,6 +96,14 @@ TEST(AnyIterator, PositionsCompareWithinOneRangeAndDifferAcrossTypes)
     EXPECT_EQ((*it).toInt(), 2);
 }
 
+TEST(AnyIterator, PositionsInVectorsOfDifferentElementsAreDifferent)
+{
+    std::vector<int> list;
+    std::vector<long> other;
+    EXPECT_NE(AnyReference::from(list).begin(), AnyReference::from(other).begin());
+    EXPECT_EQ(AnyReference::from(list).begin(), AnyReference::from(list).end());
+}
+
 TEST(AnyIterator, IsMadeOfAPositionOnly)
 {
     EXPECT_THROW(AnyIterator(AnyValue::from(1)), std::runtime_error);

@@ -4,13 +4,14 @@
 #include <zu/type/iterator.hpp>
 #include <zu/value/any_iterator.hpp>
 
+#include <array>
+#include <cstddef>
+#include <type_traits>
 #include <vector>
 
 namespace zu {
 
 namespace detail {
-
-[[noreturn]] ZU_EXPORT void throwAtEnd();
 
 /// A reference to an element of a container; of a packed one, whose elements have no address, to a constant that
 /// equals it, for reading only.
@@ -56,15 +57,36 @@ private:
 };
 
 template <class Container>
+inline constexpr bool isAdjacent = false;
+template <class T, class Allocator>
+inline constexpr bool isAdjacent<std::vector<T, Allocator>> = !std::is_same_v<T, bool>;
+template <class T, std::size_t size>
+inline constexpr bool isAdjacent<std::array<T, size>> = true;
+
+template <class Container>
+Adjacent adjacentElements(Container& container)
+{
+    using Element = typename Container::value_type;
+    return {typeOf<Element>(), const_cast<std::remove_const_t<Element>*>(container.data()), container.size(),
+            sizeof(Element), std::is_const_v<Element>};
+}
+
+template <class Container>
 AnyIterator beginOf(Container& container)
 {
-    return AnyIterator(AnyValue::from(Position<Container>{container.begin(), container.end()}));
+    if constexpr (isAdjacent<Container>)
+        return adjacentElements(container).begin();
+    else
+        return AnyIterator(AnyValue::from(Position<Container>{container.begin(), container.end()}));
 }
 
 template <class Container>
 AnyIterator endOf(Container& container)
 {
-    return AnyIterator(AnyValue::from(Position<Container>{container.end(), container.end()}));
+    if constexpr (isAdjacent<Container>)
+        return adjacentElements(container).end();
+    else
+        return AnyIterator(AnyValue::from(Position<Container>{container.end(), container.end()}));
 }
 
 class ZU_EXPORT NativeAnyIterator final : public Native<AnyIterator, IteratorTypeInterface>

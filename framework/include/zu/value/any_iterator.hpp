@@ -7,6 +7,14 @@
 
 namespace zu {
 
+namespace detail {
+
+struct Adjacent;
+
+[[noreturn]] ZU_EXPORT void throwAtEnd();
+
+} // namespace detail
+
 /// A position in a list, a map or variable arguments, to walk their elements:
 ///
 ///     for (const AnyReference element : AnyReference::from(numbers))
@@ -30,29 +38,98 @@ public:
     explicit AnyIterator(AnyValue position, bool readOnly = false);
 
     /// The element; a reference into the container.
-    AnyReference operator*() const;
+    AnyReference operator*() const
+    {
+        if (!m_elementType)
+            return elementAtPosition();
+        if (m_current == m_end)
+            detail::throwAtEnd();
+        const AnyReference element(m_elementType, static_cast<void*>(m_current));
+        return m_readOnly ? element.readOnly() : element;
+    }
 
-    AnyIterator& operator++();
-    AnyIterator operator++(int);
+    AnyIterator& operator++()
+    {
+        if (!m_elementType)
+            advancePosition();
+        else if (m_current == m_end)
+            detail::throwAtEnd();
+        else
+            m_current += m_stride;
+        return *this;
+    }
+    AnyIterator operator++(int)
+    {
+        AnyIterator before = *this;
+        ++*this;
+        return before;
+    }
 
     /// Whether both stand at the same position; positions of different types of container are different.
-    friend bool operator==(const AnyIterator& a, const AnyIterator& b) { return a.equals(b); }
-    friend bool operator!=(const AnyIterator& a, const AnyIterator& b) { return !a.equals(b); }
+    friend bool operator==(const AnyIterator& a, const AnyIterator& b)
+    {
+        if (a.m_elementType && a.m_elementType == b.m_elementType)
+            return a.m_current == b.m_current;
+        return a.equals(b);
+    }
+    friend bool operator!=(const AnyIterator& a, const AnyIterator& b) { return !(a == b); }
 
     /// The position as a value of kind Iterator; empty for a default-made one.
-    const AnyValue& position() const noexcept { return m_position; }
+    AnyValue position() const;
 
     /// The same position with elements for reading only.
     AnyIterator readOnly() const&;
     AnyIterator readOnly() &&;
 
 private:
+    friend detail::Adjacent;
+
+    AnyReference elementAtPosition() const;
+    void advancePosition();
     bool equals(const AnyIterator& other) const;
     void* state() const;
     const IteratorTypeInterface& positionType() const;
 
     AnyValue m_position;
+
+    // Elements that lie one behind another in memory need no position: that is, where there is a type.
+    const TypeInterface* m_elementType = nullptr;
+    char* m_current = nullptr;
+    char* m_end = nullptr;
+    std::size_t m_stride = 0;
+
     bool m_readOnly = false;
 };
+
+namespace detail {
+
+/// Elements of one type that lie one behind another in memory.
+struct Adjacent
+{
+    const TypeInterface* type;
+    void* first; ///< null when there are none
+    std::size_t count;
+    std::size_t stride;
+    bool readOnly;
+
+    AnyIterator begin() const { return at(0); }
+    AnyIterator end() const { return at(count); }
+
+private:
+    AnyIterator at(std::size_t index) const
+    {
+        AnyIterator iterator;
+        iterator.m_elementType = type;
+        iterator.m_stride = stride;
+        iterator.m_readOnly = readOnly;
+        if (first) {
+            iterator.m_current = static_cast<char*>(first) + index * stride;
+            iterator.m_end = static_cast<char*>(first) + count * stride;
+        }
+        return iterator;
+    }
+};
+
+} // namespace detail
 
 } // namespace zu
