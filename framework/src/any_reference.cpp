@@ -1,3 +1,4 @@
+#include "conversion_rules.hpp"
 #include "kinds.hpp"
 
 #include <zu/any_reference.hpp>
@@ -11,6 +12,7 @@
 #include <zu/type/string.hpp>
 #include <zu/type/struct.hpp>
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace zu {
@@ -117,6 +119,39 @@ AnyReference AnyReferenceBase::_element(std::size_t index) const
     return markedAs(*this, as<ListTypeInterface>(*this).element(addressOf(*this), index));
 }
 
+AnyReference AnyReferenceBase::member(std::string_view name) const
+{
+    if (kind() != TypeKind::Tuple)
+        throwUnfit("member()", *this, "a struct");
+    const auto& type = as<StructTypeInterface>(*this);
+    const std::vector<std::string>& names = type.elementsName();
+    const auto found = std::find(names.begin(), names.end(), name);
+    if (found != names.end())
+        return markedAs(*this, type.element(addressOf(*this), static_cast<std::size_t>(found - names.begin())));
+    std::string message = "member(\"" + std::string(name) + "\") of " + type.name() + ": ";
+    message += names.empty() ? "its members have no names" : "its members are ";
+    for (const std::string& known : names)
+        message += (&known == &names.front() ? "" : ", ") + known;
+    throw std::out_of_range(message);
+}
+
+AnyReference AnyReferenceBase::find(const AnyArgument& key) const
+{
+    if (kind() != TypeKind::Map)
+        throwUnfit("find()", *this, "a map");
+    const auto& type = as<MapTypeInterface>(*this);
+    const std::optional<detail::Scratch> converted = detail::Scratch::tryOf(type.keyType(), key.value());
+    return converted ? markedAs(*this, type.find(addressOf(*this), converted->get())) : AnyReference();
+}
+
+std::string_view AnyReferenceBase::enumName() const
+{
+    if (kind() != TypeKind::Int)
+        throwUnfit("enumName()", *this, "an enumeration");
+    const auto& type = as<IntTypeInterface>(*this);
+    return type.nameOf(type.get(m_address));
+}
+
 AnyReference AnyReferenceBase::content() const
 {
     if (kind() == TypeKind::Dynamic)
@@ -146,6 +181,14 @@ void* AnyReference::writableAddress() const
 
 void AnyReference::set(const AnyReferenceBase& source) const { detail::convertOrThrow(source, *this); }
 
-void AnyReference::set(const char* source) const { set(detail::textOf(source)); }
+namespace detail {
 
+std::string textOf(const char* text)
+{
+    if (!text)
+        throw std::invalid_argument("a null pointer is no text");
+    return text;
+}
+
+} // namespace detail
 } // namespace zu

@@ -129,14 +129,4 @@ void AnyValue::destroyHeld() noexcept
     t_doomed = nullptr;
 }
 
-namespace detail {
-
-std::string textOf(const char* text)
-{
-    if (!text)
-        throw std::invalid_argument("a null pointer is no text");
-    return text;
-}
-
-} // namespace detail
 } // namespace zu

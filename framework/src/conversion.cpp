@@ -148,6 +148,27 @@ bool Scratch::moveTo(Conversion& conversion, const AnyReference& target) const
            conversion.fail([this] { return m_type->name() + " cannot be assigned"; });
 }
 
+Scratch Scratch::of(const TypeInterface* type, const AnyReferenceBase& value)
+{
+    if (!value.isEmpty() && value.type()->info() == type->info())
+        return Scratch(AnyReference(value));
+    Scratch scratch(type);
+    if (!scratch)
+        throwConversionFailure(value.type(), type, type->name() + " has no default value");
+    convert(value, scratch.reference());
+    return scratch;
+}
+
+std::optional<Scratch> Scratch::tryOf(const TypeInterface* type, const AnyReferenceBase& value)
+{
+    if (!value.isEmpty() && value.type()->info() == type->info())
+        return Scratch(AnyReference(value));
+    Scratch scratch(type);
+    if (!scratch || !tryConvert(value, scratch.reference()))
+        return std::nullopt;
+    return scratch;
+}
+
 bool Scratch::renew(Conversion& conversion)
 {
     if (m_type->kind() != TypeKind::Tuple)

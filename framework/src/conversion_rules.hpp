@@ -3,6 +3,7 @@
 #include <zu/conversion.hpp>
 #include <zu/walk.hpp>
 
+#include <optional>
 #include <utility>
 
 namespace zu::detail {
@@ -61,13 +62,19 @@ public:
     explicit Scratch(const AnyReference& original) : m_type(original.type()), m_value(m_type->clone(original.address()))
     {
     }
+    Scratch(Scratch&& other) noexcept : m_type(other.m_type), m_value(std::exchange(other.m_value, nullptr)) {}
     ~Scratch()
     {
         if (m_value)
             m_type->destroy(m_value);
     }
-    Scratch(const Scratch&) = delete;
     Scratch& operator=(const Scratch&) = delete;
+
+    /// `value` as one of type `type`, converted where it is of another. Throws what convert() throws.
+    static Scratch of(const TypeInterface* type, const AnyReferenceBase& value);
+
+    /// The same; nothing when the value does not convert.
+    static std::optional<Scratch> tryOf(const TypeInterface* type, const AnyReferenceBase& value);
 
     explicit operator bool() const noexcept { return m_value != nullptr; }
     void* get() const noexcept { return m_value; }

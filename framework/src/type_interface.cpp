@@ -63,6 +63,12 @@ bool ListTypeInterface::hasFixedSize() const noexcept { return false; }
 
 bool ListTypeInterface::appendMoved(void* list, void* element) const { return append(list, element); }
 
+bool ListTypeInterface::insertMoved(void*, std::size_t, void*) const { return false; }
+
+bool ListTypeInterface::erase(void*, std::size_t) const { return false; }
+
+bool ListTypeInterface::clear(void*) const { return false; }
+
 std::size_t StructTypeInterface::memberCount() const { return memberTypes().size(); }
 
 namespace detail {

@@ -120,6 +120,9 @@ TEST(Enumeration, TellTheNamesOfTheirValues)
     EXPECT_EQ(type.numberOf("highest"), std::nullopt);
     EXPECT_TRUE(intTypeOf<sample::Colour>().enumerators().empty());
     EXPECT_TRUE(intTypeOf<int>().enumerators().empty());
+    EXPECT_EQ(AnyValue::from(Level::Highest).enumName(), "High");
+    EXPECT_EQ(AnyValue::from(1).enumName(), "");
+    EXPECT_THROW(AnyValue::from("High").enumName(), std::runtime_error);
 }
 
 } // namespace zu

@@ -40,9 +40,10 @@ TEST(NativeContainers, ArraysDequesAndSetsAreLists)
 
 TEST(NativeContainers, UnorderedMapsAreMaps)
 {
-    const std::unordered_map<std::string, int> map{{"a", 1}, {"b", 2}};
+    std::unordered_map<std::string, int> map{{"a", 1}, {"b", 2}};
     const AnyReference reference = AnyReference::from(map);
     EXPECT_EQ(reference.kind(), TypeKind::Map);
+    EXPECT_EQ(reference.find("b").toInt(), 2);
     EXPECT_EQ((reference.to<std::map<std::string, long>>()), (std::map<std::string, long>{{"a", 1}, {"b", 2}}));
     EXPECT_EQ((AnyValue::from(std::map<std::string, int>{{"c", 3}}).to<std::unordered_map<std::string, int>>()),
               (std::unordered_map<std::string, int>{{"c", 3}}));

@@ -213,6 +213,31 @@ TEST(Struct, MissingAndStrangeNamesAreRefused)
     EXPECT_EQ(point, (sample::Point{1, 2}));
 }
 
+TEST(Struct, GivesAMemberByItsName)
+{
+    sample::Point point{1, 2};
+    AnyReference::from(point).member("y").set(7);
+    EXPECT_EQ(point.y, 7);
+    const sample::Point sealed{1, 2};
+    EXPECT_EQ(AnyReference::from(sealed).member("x").toInt(), 1);
+    EXPECT_TRUE(AnyReference::from(sealed).member("x").isReadOnly());
+    Account account;
+    AnyReference::from(account).member("owner").set("Ada");
+    EXPECT_EQ(account.owner(), "Ada");
+}
+
+TEST(Struct, AMemberThatIsNotThereIsAnErrorThatListsThose)
+{
+    const sample::Line line;
+    const std::pair<int, int> pair;
+    EXPECT_EQ(errorOf([&] { AnyReference::from(line).member("point"); }),
+              "member(\"point\") of ::sample::Line: its members are name, points, notes");
+    EXPECT_EQ(errorOf([&] { AnyReference::from(pair).member("first"); }),
+              "member(\"first\") of std::pair<int, int>: its members have no names");
+    EXPECT_EQ(errorOf([&] { AnyReference::from(line.name).member("x"); }),
+              "member() of std::string: a struct is needed");
+}
+
 TEST(StructBouncer, ReportsItsOwnNameAndTheRecordsMembers)
 {
     EXPECT_TRUE(structtest::g_accountRegistered);

@@ -31,6 +31,7 @@ class AnyReferenceBase;
 class AnyReference;
 class AnyValue;
 class AnyIterator;
+class AnyArgument;
 
 struct ConversionFailure;
 class ConversionError;

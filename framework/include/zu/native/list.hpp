@@ -42,6 +42,12 @@ struct Elements<VarArguments<T>>
     static const std::vector<T>& of(const VarArguments<T>& list) { return list.args(); }
 };
 
+/// Whether elements stay where they are when others come and go.
+template <class Container>
+inline constexpr bool isNodeBased = false;
+template <class T, class Allocator>
+inline constexpr bool isNodeBased<std::list<T, Allocator>> = true;
+
 /// What all lists can do; what comes and goes is left to those that derive from it.
 template <class T, class Interface>
 class NativeList : public Native<T, Interface>
@@ -93,6 +99,14 @@ class NativeSequence final : public NativeList<T, Interface>
     using Element = typename Base::Element;
     using Base::elements;
 
+    /// Whether elements can be moved aside.
+    static constexpr bool k_shifts = std::is_move_constructible_v<Element> && std::is_move_assignable_v<Element>;
+
+    /// Whether what fails while elements are moved aside could leave the list half changed.
+    static constexpr bool k_shiftsMayFail =
+        isCopyable<Element> && !isNodeBased<typename Base::Container> &&
+        !(std::is_nothrow_move_constructible_v<Element> && std::is_nothrow_move_assignable_v<Element>);
+
 public:
     bool append(void* list, const void* element) const override
     {
@@ -109,6 +123,40 @@ public:
         else
             append(list, element);
         return true;
+    }
+    bool insertMoved(void* list, std::size_t index, void* element) const override
+    {
+        return shift(list, [&](auto& shifted) {
+            shifted.insert(at(shifted, index), std::move(*static_cast<Element*>(element)));
+        });
+    }
+    bool erase(void* list, std::size_t index) const override
+    {
+        return shift(list, [&](auto& shifted) { shifted.erase(at(shifted, index)); });
+    }
+    bool clear(void* list) const override
+    {
+        elements(list).clear();
+        return true;
+    }
+
+private:
+    template <class Change>
+    static bool shift([[maybe_unused]] void* list, [[maybe_unused]] Change change)
+    {
+        if constexpr (k_shifts && k_shiftsMayFail) {
+            auto copy = elements(list);
+            change(copy);
+            elements(list).swap(copy);
+        } else if constexpr (k_shifts) {
+            change(elements(list));
+        }
+        return k_shifts;
+    }
+
+    static auto at(typename Base::Container& container, std::size_t index)
+    {
+        return std::next(container.begin(), static_cast<std::ptrdiff_t>(index));
     }
 };
 

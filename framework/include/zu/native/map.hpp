@@ -47,6 +47,11 @@ public:
             .try_emplace(std::move(*static_cast<Key*>(key)), std::move(*static_cast<Value*>(value)))
             .second;
     }
+    bool erase(void* map, const void* key) const override
+    {
+        return this->object(map).erase(*static_cast<const Key*>(key)) != 0;
+    }
+    void clear(void* map) const override { this->object(map).clear(); }
 };
 
 } // namespace detail

@@ -31,6 +31,16 @@ public:
         else
             return append(list, element);
     }
+    bool erase(void* list, std::size_t index) const override
+    {
+        elements(list).erase(std::next(elements(list).begin(), static_cast<std::ptrdiff_t>(index)));
+        return true;
+    }
+    bool clear(void* list) const override
+    {
+        elements(list).clear();
+        return true;
+    }
 };
 
 } // namespace detail

@@ -39,6 +39,18 @@ public:
     /// Like append(), and may leave `element` moved from.
     virtual bool appendMoved(void* list, void* element) const;
 
+    /// Puts `element`, which may be left moved from, before the one at `index`, at most size().
+    /// @return false, and nothing is done, when the list has no such operation, as arrays and sets.
+    virtual bool insertMoved(void* list, std::size_t index, void* element) const;
+
+    /// Removes the element at `index`, which is less than size().
+    /// @return false, and nothing is done, when the list has no such operation, as arrays.
+    virtual bool erase(void* list, std::size_t index) const;
+
+    /// Removes all elements.
+    /// @return false, and nothing is done, when the list has no such operation, as arrays.
+    virtual bool clear(void* list) const;
+
 protected:
     explicit ListTypeInterface(const TypeInfo& info, std::size_t wordSize = 0, TypeKind kind = TypeKind::List)
         : TypeInterface(info, kind, wordSize)

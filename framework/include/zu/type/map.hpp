@@ -33,6 +33,12 @@ public:
     /// @return false, and nothing is done, when the key is there already.
     virtual bool insertMoved(void* map, void* key, void* value) const = 0;
 
+    /// Removes the entry of `key`, a value of keyType().
+    /// @return false when there is none.
+    virtual bool erase(void* map, const void* key) const = 0;
+
+    virtual void clear(void* map) const = 0;
+
 protected:
     explicit MapTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : TypeInterface(info, TypeKind::Map, wordSize)

@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 
 namespace zu {
 
@@ -78,6 +79,15 @@ public:
     AnyIterator begin() const;
     AnyIterator end() const;
 
+    /// The member of a struct that has a name. Throws std::out_of_range, with the names that there are, for any other.
+    AnyReference member(std::string_view name) const;
+
+    /// The value under a key of a map; empty when there is none, as for a key that does not convert to the map's.
+    AnyReference find(const AnyArgument& key) const;
+
+    /// The name of the value of an enumeration; empty when it has none (see EnumSchema).
+    std::string_view enumName() const;
+
     /// Member `index` of a tuple (of a map's entry: 0 the key, 1 the value), element `index` of a list or variable
     /// arguments. Throws std::out_of_range when there are not as many.
     AnyReference _element(std::size_t index) const;
@@ -85,9 +95,6 @@ public:
     /// What is held by a dynamic, a pointer or an optional; empty when it holds nothing. Takes one step: the content
     /// may be such a value itself.
     AnyReference content() const;
-
-private:
-    bool isOf(const TypeInfo& info) const { return type()->info() == info && !info.isAnonymous(); }
 
 protected:
     static constexpr std::uintptr_t k_readOnly = 1;
@@ -104,6 +111,9 @@ protected:
     /// A type's address with k_readOnly in its lowest bit, which is free: interfaces are aligned to words.
     std::uintptr_t m_tagged = 0;
     void* m_address = nullptr;
+
+private:
+    bool isOf(const TypeInfo& info) const { return type()->info() == info && !info.isAnonymous(); }
 };
 
 /// A type and the address of a value that somebody else owns and that must outlive the reference: two words, copied
@@ -168,15 +178,31 @@ public:
     /// Sets the value to `source` converted to its type. Throws ConversionError when it does not convert; the value is
     /// then as it was.
     void set(const AnyReferenceBase& source) const;
+    void set(const AnyArgument& source) const;
 
-    template <class T, class = std::enable_if_t<!std::is_base_of_v<AnyReferenceBase, T>>>
-    void set(const T& source) const
-    {
-        set(static_cast<const AnyReferenceBase&>(from(source)));
-    }
+    /// @name Changing containers
+    ///
+    /// Elements, keys and values are converted to the container's types; what does not convert throws ConversionError.
+    /// A container that has no such operation, as an array whose size is fixed, throws std::runtime_error, an index
+    /// that is not there std::out_of_range. The container is then as it was. The container's own rules tell which
+    /// references into it become invalid.
+    /// @{
 
-    /// A C string is a text.
-    void set(const char* source) const;
+    /// Adds an element at the end of a list, or at its place in a set.
+    /// @return false, and nothing is done, when it is a set that has the element.
+    bool append(const AnyArgument& element) const;
+
+    /// Puts a value before element `at` of a list, at most size(); files it under the key `at` of a map.
+    /// @return false, and nothing is done, when the map has the key.
+    bool insert(const AnyArgument& at, const AnyArgument& value) const;
+
+    /// Removes element `at` of a list, the entry of the key `at` of a map.
+    /// @return false when the map has no such key.
+    bool erase(const AnyArgument& at) const;
+
+    /// Removes everything.
+    void clear() const;
+    /// @}
 
 private:
     [[noreturn]] static void refuse(const TypeInterface* type);
@@ -186,10 +212,45 @@ static_assert(sizeof(AnyReference) == 2 * sizeof(void*));
 
 namespace detail {
 
+template <class T>
+inline constexpr bool isCString =
+    std::is_same_v<std::decay_t<T>, const char*> || std::is_same_v<std::decay_t<T>, char*>;
+
+/// Throws std::invalid_argument for a null pointer.
+ZU_EXPORT std::string textOf(const char* text);
+
 ZU_EXPORT void convertOrThrow(const AnyReferenceBase& source, const AnyReference& target);
 ZU_EXPORT bool convertIfPossible(const AnyReferenceBase& source, const AnyReference& target);
 
 } // namespace detail
+
+/// What operations take a value as: an object of any type, what a reference or an AnyValue refers to, or a C string,
+/// which counts as a std::string (a null pointer throws std::invalid_argument). For the time of the call.
+class AnyArgument
+{
+public:
+    AnyArgument(const AnyReferenceBase& value) noexcept : m_value(value) {} // NOLINT(google-explicit-constructor)
+
+    template <class T, class = std::enable_if_t<!std::is_base_of_v<AnyReferenceBase, T>>>
+    AnyArgument(const T& object) // NOLINT(google-explicit-constructor)
+    {
+        if constexpr (detail::isCString<T>)
+            m_value = AnyReference::from(std::as_const(m_text.emplace(detail::textOf(object))));
+        else
+            m_value = AnyReference::from(object);
+    }
+
+    AnyArgument(const AnyArgument&) = delete;
+    AnyArgument& operator=(const AnyArgument&) = delete;
+
+    const AnyReference& value() const noexcept { return m_value; }
+
+private:
+    std::optional<std::string> m_text;
+    AnyReference m_value;
+};
+
+inline void AnyReference::set(const AnyArgument& source) const { set(source.value()); }
 
 template <class T>
 T AnyReferenceBase::to() const

@@ -72,6 +72,10 @@ public:
         return AnyReferenceBase::getIf<T>();
     }
 
+    /// Sets the value to `source` converted to the type that is held. Throws ConversionError when it does not convert,
+    /// as nothing does to an empty one; the value is then as it was.
+    void set(const AnyArgument& source) { reference().set(source); }
+
     /// Empties it.
     void reset() noexcept { clear(); }
 
@@ -121,16 +125,6 @@ inline void AnyValue::swap(AnyValue& other) noexcept
     other.takeFrom(*this);
     takeFrom(kept);
 }
-
-namespace detail {
-
-template <class T>
-inline constexpr bool isCString =
-    std::is_same_v<std::decay_t<T>, const char*> || std::is_same_v<std::decay_t<T>, char*>;
-
-ZU_EXPORT std::string textOf(const char* text);
-
-} // namespace detail
 
 template <class T>
 AnyValue AnyValue::from(T&& object)
