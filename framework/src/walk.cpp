@@ -34,10 +34,10 @@ void Walk::Step::enterFrom(const Step& outer, const AnyReferenceBase& value)
     const bool isLevel = isContainer(outer.m_type->kind()) || isWrapper(value.kind());
     m_level = outer.m_level + (isLevel ? 1 : 0);
     m_isRepeated = outer.m_isRepeated;
-    if (m_level > k_maxNesting)
-        m_refusal = k_tooDeep;
-    else if (m_isRepeated && ++m_walk.m_repeatedParts > k_maxRepeatedParts)
+    if (m_isRepeated && ++m_walk.m_repeatedParts > k_maxRepeatedParts)
         m_refusal = k_tooMany;
+    else if (m_level > k_maxNesting)
+        m_refusal = k_tooDeep;
     else if (isContainer(value.kind()) && refersToContent(*outer.m_type))
         m_isRepeated |= !m_walk.m_referredTo.insert(value.address()).second;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <zu/value/operators.hpp>
 #include <zu/value/type_of.hpp>
 
 #include <cstddef>
