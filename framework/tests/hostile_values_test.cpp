@@ -7,6 +7,7 @@
 
 #include <list>
 #include <memory>
+#include <pthread.h>
 
 namespace zu {
 
@@ -45,6 +46,22 @@ AnyValue nestedInMaps(int depth)
         value = AnyValue::from(std::move(map));
     }
     return value;
+}
+
+/// Runs `function` on a thread with a stack of 512 KiB.
+void onSmallStack(void (*function)())
+{
+    pthread_attr_t attributes;
+    ASSERT_EQ(pthread_attr_init(&attributes), 0);
+    ASSERT_EQ(pthread_attr_setstacksize(&attributes, 512 * 1024), 0);
+    pthread_t thread{};
+    const auto run = [](void* argument) -> void* {
+        (*static_cast<void (**)()>(argument))();
+        return nullptr;
+    };
+    ASSERT_EQ(pthread_create(&thread, &attributes, run, &function), 0);
+    ASSERT_EQ(pthread_join(thread, nullptr), 0);
+    pthread_attr_destroy(&attributes);
 }
 
 } // namespace
@@ -97,6 +114,60 @@ TEST(HostileValues, DeepNestingIsReadStepByStep)
     for (int i = 0; i != k_deep; ++i)
         inner = inner.content();
     EXPECT_EQ(inner.toInt(), 1);
+}
+
+TEST(HostileValues, DeepNestingIsNeitherComparedNorHashedAndPrintedInPart)
+{
+    for (const auto& nest : {&nestedDirectly, &nestedInLists, &nestedInMaps}) {
+        const AnyValue value = nest(k_deep);
+        const AnyValue other = nest(k_deep);
+        EXPECT_THROW(compare(value, other), std::length_error);
+        EXPECT_THROW(static_cast<void>(value == other), std::length_error);
+        EXPECT_THROW(value.hash(), std::length_error);
+        EXPECT_THAT(testing::PrintToString(value), testing::HasSubstr("..."));
+    }
+}
+
+TEST(HostileValues, ASmallStackSufficesForWhatIsNotRefused)
+{
+    onSmallStack([] {
+        for (const auto& nest : {&nestedInLists, &nestedInMaps}) {
+            const AnyValue value = nest(k_maxNesting);
+            const AnyValue other = nest(k_maxNesting);
+            EXPECT_EQ(value, other);
+            EXPECT_EQ(value.hash(), other.hash());
+            EXPECT_EQ(testing::PrintToString(value).find("..."), std::string::npos);
+        }
+        const AnyValue deep = nestedInMaps(k_deep);
+        EXPECT_THROW(deep.hash(), std::length_error);
+    });
+}
+
+TEST(HostileValues, MapsThatAreTheirOwnKeysAreNotCompared)
+{
+    int numbers[] = {1, 2};
+    std::vector<AnyReference> a{AnyReference::from(numbers[0])};
+    std::vector<AnyReference> b{AnyReference::from(numbers[1])};
+    const std::map<AnyReference, int> map{{AnyReference::from(a), 1}, {AnyReference::from(b), 2}};
+    const std::map<AnyReference, int> other{{AnyReference::from(a), 1}, {AnyReference::from(b), 2}};
+    a[0] = AnyReference::from(map);
+    b[0] = AnyReference::from(other);
+    EXPECT_THROW(compare(AnyReference::from(map), AnyReference::from(other)), std::length_error);
+    EXPECT_THROW(AnyReference::from(map).hash(), std::length_error);
+}
+
+TEST(HostileValues, WhatIsReferredToAgainAndAgainIsNotComparedToTheEnd)
+{
+    std::vector<std::vector<AnyReference>> levels(40, std::vector<AnyReference>(2));
+    std::vector<std::vector<AnyReference>> others = levels;
+    for (auto* all : {&levels, &others}) {
+        for (std::size_t i = 1; i != all->size(); ++i)
+            (*all)[i - 1][0] = (*all)[i - 1][1] = AnyReference::from((*all)[i]);
+    }
+    const AnyReference value = AnyReference::from(levels[0]);
+    EXPECT_THROW(compare(value, AnyReference::from(others[0])), std::length_error);
+    EXPECT_THROW(value.hash(), std::length_error);
+    EXPECT_LT(testing::PrintToString(value).size(), 10'000'000u);
 }
 
 TEST(HostileValues, AListThatContainsItselfIsRefusedByConversion)

@@ -30,6 +30,14 @@ class NativePointer final : public Native<Pointer, PointerTypeInterface>
 public:
     PointerKind pointerKind() const noexcept override { return kind; }
     const TypeInterface* pointedType() const override { return typeOf<Pointee>(); }
+    const void* addressIn(const void* pointer) const override
+    {
+        const Pointer& typed = this->object(pointer);
+        if constexpr (kind == PointerKind::Raw)
+            return const_cast<const void*>(static_cast<const volatile void*>(typed));
+        else
+            return const_cast<const void*>(static_cast<const volatile void*>(typed.get()));
+    }
     AnyReference dereference(const void* pointer) const override
     {
         const Pointer& typed = this->object(pointer);

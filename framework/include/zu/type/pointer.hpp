@@ -20,6 +20,9 @@ public:
     virtual PointerKind pointerKind() const noexcept = 0;
     virtual const TypeInterface* pointedType() const = 0;
 
+    /// Where it points to; null for a null pointer.
+    virtual const void* addressIn(const void* pointer) const = 0;
+
     /// What the pointer points to, by its declared type; an empty reference for a null pointer. For reading only when
     /// the pointer is one to const.
     virtual AnyReference dereference(const void* pointer) const = 0;

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -88,6 +89,9 @@ public:
 
     /// The name of the value of an enumeration; empty when it has none (see EnumSchema).
     std::string_view enumName() const;
+
+    /// By the content: see compare().
+    std::size_t hash() const;
 
     /// Member `index` of a tuple (of a map's entry: 0 the key, 1 the value), element `index` of a list or variable
     /// arguments. Throws std::out_of_range when there are not as many.
@@ -279,3 +283,9 @@ std::optional<T> AnyReferenceBase::tryTo() const
 }
 
 } // namespace zu
+
+template <>
+struct std::hash<zu::AnyReference>
+{
+    std::size_t operator()(const zu::AnyReference& value) const { return value.hash(); }
+};

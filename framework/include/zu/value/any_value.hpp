@@ -150,3 +150,9 @@ AnyValue AnyValue::from(T&& object)
 }
 
 } // namespace zu
+
+template <>
+struct std::hash<zu::AnyValue>
+{
+    std::size_t operator()(const zu::AnyValue& value) const { return value.hash(); }
+};
