@@ -1,6 +1,6 @@
 // A visitor that prints any value, however its types are nested.
-#include <zu/conversion.hpp>
 #include <zu/dispatch.hpp>
+#include <zu/walk.hpp>
 
 #include <iostream>
 #include <map>
@@ -14,14 +14,12 @@ namespace {
 class Printer final : public zu::TypeVisitor
 {
 public:
-    explicit Printer(int depth = 0) : m_depth(depth) {}
-
-    void print(const zu::AnyReferenceBase& value) const
+    void print(const zu::AnyReferenceBase& value)
     {
-        if (m_depth == zu::k_maxNesting) // a value may be nested without end
-            throw std::length_error("nested too deeply to print");
-        Printer inner(m_depth + 1);
-        zu::dispatch(value, inner);
+        const zu::Walk::Step step(m_walk, value);
+        if (!step) // a value may be nested without end
+            throw std::length_error(step.refusal());
+        zu::dispatch(value, *this);
     }
 
     void visitInt(std::int64_t number, bool isSigned, unsigned byteSize) override
@@ -83,7 +81,7 @@ public:
     void visitIterator(const zu::AnyReference& iterator) override { printType(iterator); }
 
 private:
-    void printContent(const zu::AnyReference& content) const
+    void printContent(const zu::AnyReference& content)
     {
         if (content.isEmpty())
             std::cout << "nothing";
@@ -92,7 +90,7 @@ private:
     }
     static void printType(const zu::AnyReference& value) { std::cout << '<' << value.type()->name() << '>'; }
 
-    const int m_depth;
+    zu::Walk m_walk;
 };
 
 } // namespace

@@ -196,4 +196,49 @@ TEST(Dispatch, NumbersThatAreNoKindArePassedOverInSilence)
     EXPECT_TRUE(capture.records.empty());
 }
 
+TEST(PartialVisitor, TellsOfTheKindsThatItDoesNotHandle)
+{
+    class Texts final : public PartialVisitor
+    {
+    public:
+        void visitString(std::string_view text) override { seen += text; }
+        void visitList(const AnyReference& list) override
+        {
+            for (const AnyReference element : list)
+                dispatch(element, *this);
+        }
+        std::string seen;
+
+    private:
+        void visitOther(TypeKind kind) override { seen += '<' + std::string(kindName(kind)) + '>'; }
+    };
+    Texts visitor;
+    const std::vector<AnyValue> values{AnyValue::from("a"),
+                                       AnyValue::from(1),
+                                       AnyValue(),
+                                       AnyValue::from(std::optional<std::string>("b")),
+                                       AnyValue::from(VarArguments<std::string>({"c"})),
+                                       AnyValue::from(std::map<int, int>()),
+                                       AnyValue::from(sample::Point())};
+    dispatch(AnyReference::from(values), visitor);
+    EXPECT_EQ(visitor.seen, "a<Int><Dynamic>bc<Map><Tuple>");
+}
+
+TEST(PartialVisitor, ComesToAnEndWhereDynamicsDoNot)
+{
+    class Counter final : public PartialVisitor
+    {
+    public:
+        int others = 0;
+
+    private:
+        void visitOther(TypeKind) override { ++others; }
+    };
+    AnyReference self;
+    self = AnyReference::from(self);
+    Counter visitor;
+    dispatch(self, visitor);
+    EXPECT_EQ(visitor.others, 1);
+}
+
 } // namespace zu

@@ -60,12 +60,53 @@ protected:
     TypeVisitor& operator=(const TypeVisitor&) = default;
 };
 
+/// A visitor for some kinds: what a handler is not overridden for comes to visitOther().
+class ZU_EXPORT PartialVisitor : public TypeVisitor
+{
+public:
+    ~PartialVisitor() override;
+
+    void visitUnknown(const AnyReference& value) override;
+    void visitVoid() override;
+    void visitInt(std::int64_t number, bool isSigned, unsigned byteSize) override;
+    void visitFloat(double number, unsigned byteSize) override;
+    void visitString(std::string_view text) override;
+    void visitList(const AnyReference& list) override;
+    void visitMap(const AnyReference& map) override;
+    void visitObject(const AnyReference& object) override;
+    void visitPointer(PointerKind kind, const AnyReference& pointee) override;
+    void visitTuple(const std::string& className, const std::vector<AnyReference>& values,
+                    const std::vector<std::string>& names) override;
+
+    /// Unlike the others this dispatches what is held in the end; where that is nothing, visitOther() is told.
+    void visitDynamic(const AnyReference& dynamic) override;
+    void visitRaw(std::string_view bytes) override;
+    void visitIterator(const AnyReference& iterator) override;
+
+    /// Calls visitList(): the two are read alike.
+    void visitVarArgs(const AnyReference& arguments) override;
+
+    /// Like visitDynamic().
+    void visitOptional(const AnyReference& optional) override;
+
+protected:
+    PartialVisitor() = default;
+    PartialVisitor(const PartialVisitor&) = default;
+    PartialVisitor& operator=(const PartialVisitor&) = default;
+
+    /// Does nothing.
+    virtual void visitOther(TypeKind kind);
+
+private:
+    void visitContent(const AnyReference& wrapper);
+};
+
 /// Calls the handler for the kind of `value`; what it throws comes out.
 ///
 /// Without a call: an empty reference is reported with the warning "NULL type" to the category "zutype.typedispatcher",
 /// a function, a signal or a property with "Signal and Property not handled"; a number that is no kind is passed over
-/// in silence. Handlers that dispatch the parts of a value should count their depth and stop at k_maxNesting, for a
-/// value may be nested as deep as memory goes, or contain itself.
+/// in silence. Handlers that dispatch the parts of a value are well advised to do so within a Walk, for a value may be
+/// nested as deep as memory goes, or contain itself.
 ZU_EXPORT void dispatch(const AnyReferenceBase& value, TypeVisitor& visitor);
 
 } // namespace zu
