@@ -95,6 +95,9 @@ public:
         if constexpr (std::is_default_constructible_v<T>) {
             try {
                 return new T();
+            } catch (const std::bad_alloc&) { // says nothing about the type
+                detail::reportStorageFailure(*this);
+                throw;
             } catch (...) { // whatever it is, the answer is null
                 detail::reportStorageFailure(*this);
                 return nullptr;

@@ -57,8 +57,8 @@ public:
     /// What people call the type: the class name of a registered struct, else the demangled name.
     virtual std::string name() const;
 
-    /// A new default value on the heap, to be given to destroy(); null when there can be none, which is logged as an
-    /// error "initializeStorage error on " + name() to the category "zutype.bypointer".
+    /// A new default value on the heap, to be given to destroy(); null when there can be none. Throws std::bad_alloc.
+    /// Either failure is logged as an error "initializeStorage error on " + name() to the category "zutype.bypointer".
     virtual void* initializeStorage() const = 0;
 
     /// A new copy on the heap, to be given to destroy(). Throws what the copying throws, std::logic_error when the type

@@ -1,0 +1,38 @@
+#include "failing_allocation.hpp"
+
+#include <cstdlib>
+
+namespace {
+
+constexpr std::size_t k_none = static_cast<std::size_t>(-1);
+constexpr std::size_t k_failed = k_none - 1;
+
+thread_local std::size_t t_allowed = k_none;
+
+} // namespace
+
+void* operator new(std::size_t size)
+{
+    if (t_allowed == 0) {
+        t_allowed = k_failed;
+        throw std::bad_alloc();
+    }
+    if (t_allowed < k_failed)
+        --t_allowed;
+    if (void* memory = std::malloc(size == 0 ? 1 : size))
+        return memory;
+    throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+
+namespace zu {
+
+FailingAllocation::FailingAllocation(std::size_t allowed) { t_allowed = allowed; }
+
+FailingAllocation::~FailingAllocation() { t_allowed = k_none; }
+
+bool FailingAllocation::hasFailed() const { return t_allowed == k_failed; }
+
+} // namespace zu

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstddef>
+#include <new>
+
+namespace zu {
+
+/// While it lives, one allocation of this thread fails: the one after `allowed` others. Replaces the operators new of
+/// the program.
+class FailingAllocation
+{
+public:
+    explicit FailingAllocation(std::size_t allowed);
+    ~FailingAllocation();
+    FailingAllocation(const FailingAllocation&) = delete;
+    FailingAllocation& operator=(const FailingAllocation&) = delete;
+
+    /// Whether so many allocations were asked for that one failed.
+    bool hasFailed() const;
+};
+
+/// Does `work` again and again, with each of its allocations failing once, then without a failure. `prepare` comes
+/// before each attempt, `check(done)` behind it: what failed has to be as it was.
+/// @return the number of allocations that failed.
+template <class Prepare, class Work, class Check>
+std::size_t withEachAllocationFailing(Prepare prepare, Work work, Check check)
+{
+    for (std::size_t allowed = 0;; ++allowed) {
+        prepare();
+        bool done = false;
+        bool failed = false;
+        {
+            const FailingAllocation failing(allowed);
+            try {
+                work();
+                done = true;
+            } catch (const std::bad_alloc&) {
+            }
+            failed = failing.hasFailed();
+        }
+        check(done);
+        if (!failed)
+            return allowed;
+    }
+}
+
+} // namespace zu
