@@ -1,6 +1,10 @@
 #pragma once
 
 /// The whole host framework.
+///
+/// ABI: the virtual functions of the interfaces, the layout of the values and the code of the templates end up in the
+/// binaries of those who use them. All that meet in one process must be built against headers of one soname, which
+/// changes with every major and minor version.
 #include <zu/any_iterator.hpp>
 #include <zu/any_reference.hpp>
 #include <zu/any_value.hpp>
