@@ -1,6 +1,7 @@
 // The one source that includes the parser of command lines, which takes longer to compile than the rest of the program.
 #include "command_line.hpp"
 
+#include "commands/check.hpp"
 #include "commands/show.hpp"
 #include "output.hpp"
 
@@ -10,9 +11,50 @@
 
 namespace zu::cli {
 
+namespace {
+
+constexpr char k_exitCodes[] =
+    "Exit codes: 0 done; 1 findings, or differences; 2 wrong usage; 3 something could not be\n"
+    "read; 4 what was asked for is not there; 5 output could not be written. The worst one\n"
+    "wins, in the order 2, 5, 3, 4, 1.\n";
+
+} // namespace
+
 void Arguments::require(std::vector<std::string>& values, const char* name, const char* type, const char* help)
 {
     m_parser.add_option(name, values, help)->required()->type_name(type);
+}
+
+void Arguments::accept(std::vector<std::string>& values, const char* name, const char* type, const char* help)
+{
+    m_parser.add_option(name, values, help)->type_name(type);
+}
+
+void Arguments::repeated(std::vector<std::string>& values, const char* name, const char* type, const char* help)
+{
+    // One value a time, so that what follows is not taken for another.
+    m_parser.add_option(name, values, help)->type_name(type)->allow_extra_args(false);
+}
+
+void Arguments::option(std::string& value, const char* name, const char* type, const char* help)
+{
+    m_parser.add_option(name, value, help)->type_name(type);
+}
+
+void Arguments::choice(std::string& value, const char* name, const std::vector<std::string>& choices, const char* help)
+{
+    m_parser.add_option(name, value, help)->check(CLI::IsMember(choices))->type_name("WHICH")->capture_default_str();
+}
+
+void Arguments::flag(bool& value, const char* name, const char* help) { m_parser.add_flag(name, value, help); }
+
+ExitCode worse(ExitCode left, ExitCode right)
+{
+    for (const ExitCode code : {k_usage, k_outputFailed, k_inputFailed, k_absent, k_findings}) {
+        if (left == code || right == code)
+            return code;
+    }
+    return k_success;
 }
 
 ExitCode runCommandLine(int argc, char** argv)
@@ -21,12 +63,13 @@ ExitCode runCommandLine(int argc, char** argv)
     app.set_version_flag("--version", "zupackage " ZUPACKAGE_VERSION);
     app.require_subcommand(1);
     ExitCode result = k_success;
-    for (const Command& command : {k_show}) {
+    for (const Command& command : {k_check, k_show}) {
         CLI::App* subcommand = app.add_subcommand(command.name, command.summary);
+        subcommand->footer(k_exitCodes);
         Arguments arguments(*subcommand);
         subcommand->callback([&result, runCommand = command.prepare(arguments)] { result = runCommand(); });
     }
-    app.footer("Exit codes: 0 done, 1 standard output failed, 2 wrong usage, 3 something could not be read.");
+    app.footer(k_exitCodes);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

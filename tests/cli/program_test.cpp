@@ -29,7 +29,7 @@ TEST(Program, HelpGoesToStandardOutput)
 TEST(Program, HelpThatCannotBeWrittenIsAnError)
 {
     const test::ProgramResult result = test::runProgram(ZUPACKAGE_PROGRAM, {"--help"}, {{}, "/dev/full", {}});
-    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.exitCode, 5);
     EXPECT_EQ(result.errors, "zupackage: cannot write to standard output: No space left on device\n");
 }
 

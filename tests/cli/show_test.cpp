@@ -97,7 +97,7 @@ TEST(Show, FileNamesAreUtf8WhateverTheLocale)
 TEST(Show, AFullOutputIsAnErrorOfItsOwn)
 {
     const test::ProgramResult result = show({examplePath("story-teller")}, {{}, "/dev/full", {}});
-    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.exitCode, 5);
     EXPECT_EQ(result.errors, "zupackage: cannot write to standard output: No space left on device\n");
 }
 

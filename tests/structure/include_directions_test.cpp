@@ -57,14 +57,14 @@ const std::vector<Rule> k_rules = {
     {"authoring/tests/",
      {"authoring/", "tests/", k_package, k_framework, "QtCore/", "QtXml/", "gmock/", "gtest/", "std/"}},
 
-    {"cli/", {"cli/", k_authoring, k_package, "QtCore/", "CLI/", "std/"}},
+    {"cli/", {"cli/", k_authoring, k_package, "QtCore/", "CLI/", "nlohmann/", "std/"}},
     {"bench/",
      {"bench/", k_authoring, k_package, k_framework, "QtCore/", "QtXml/", "benchmark/", "boost/", "nlohmann/", "std/"}},
     {"fuzz/", {"fuzz/", "tests/support/", "authoring/tests/support/", k_authoring, k_package, k_framework, "std/"}},
     {"examples/api/", {k_package, k_framework, "std/"}},
     {"tests/consumer/", {k_authoring, k_package, k_framework, "std/"}},
     {"tests/loading/", {"tests/", k_package, k_framework, "gmock/", "gtest/", "std/"}},
-    {"tests/cli/", {"tests/", "QtCore/", "gmock/", "gtest/", "std/"}},
+    {"tests/cli/", {"tests/", "QtCore/", "gmock/", "gtest/", "sys/", "std/"}},
     {"tests/",
      {"tests/", "src/", k_package, k_framework, "QtCore/", "QtXml/", "boost/", "gmock/", "gtest/", "sys/", "std/"}},
 };

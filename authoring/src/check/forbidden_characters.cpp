@@ -17,6 +17,8 @@ using zu::authoring::SourceDocument;
 using zu::authoring::SourceNode;
 using zu::authoring::SourceTree;
 using zu::authoring::SourceTreeAccess;
+using zu::authoring::SyntaxError;
+using zu::authoring::SyntaxErrorKind;
 using zupackage::authoring::appendUtf8;
 using zupackage::authoring::Reference;
 using zupackage::authoring::referenceAt;
@@ -66,9 +68,13 @@ bool isNoncharacter(std::string_view text, std::size_t at)
 
 std::vector<ByteRange> forbiddenCharacters(const SourceDocument& document)
 {
+    std::vector<ByteRange> result;
+    // A document beyond the limits is nothing that anybody reads.
+    if (std::any_of(document.errors().begin(), document.errors().end(),
+                    [](const SyntaxError& error) { return error.kind == SyntaxErrorKind::Limit; }))
+        return result;
     const SourceTree& tree = SourceTreeAccess::tree(document);
     const std::string_view text = tree.utf8();
-    std::vector<ByteRange> result;
     for (std::size_t at = 0; at < text.size(); ++at) {
         const auto byte = static_cast<unsigned char>(text[at]);
         if (byte < 0x20 ? byte != '\t' && byte != '\n' && byte != '\r' : byte == 0xEF && isNoncharacter(text, at))
