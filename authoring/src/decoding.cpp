@@ -6,6 +6,7 @@
 #include <QtCore/QString>
 #include <QtCore/QTextCodec>
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
 
@@ -79,14 +80,19 @@ public:
             const QString characters = decoder->toUnicode(m_bytes.data() + at, 1);
             if (characters.isEmpty())
                 continue;
-            for (const uint codePoint : characters.toUcs4()) {
-                // What comes out for bytes that mean nothing.
-                if (codePoint == k_replacement || isSurrogate(codePoint))
-                    addInvalid(at + 1 - taken);
+            const auto codePoints = characters.toUcs4();
+            std::size_t left = at + 1 - taken;
+            for (int i = 0; i < codePoints.size(); ++i) {
+                // When bytes that mean nothing are noticed at the next character, that one takes the last byte.
+                const auto behind = static_cast<std::size_t>(codePoints.size() - 1 - i);
+                const std::size_t bytes = left > behind ? left - behind : std::min<std::size_t>(left, 1);
+                if (codePoints[i] == k_replacement || isSurrogate(codePoints[i]))
+                    addInvalid(bytes);
                 else
-                    add(codePoint, at + 1 - taken);
-                taken = at + 1;
+                    add(codePoints[i], bytes);
+                left -= bytes;
             }
+            taken = at + 1;
         }
         addRest(taken);
     }

@@ -112,6 +112,16 @@ TEST(SourceDocumentEncodings, BytesThatMeanNothingAreToldAndTheRestIsRead)
     EXPECT_TRUE(document.isComplete());
 }
 
+TEST(SourceDocumentEncodings, ABrokenCharacterLeavesTheNextOneItsBytes)
+{
+    const std::string bytes = declared("Shift_JIS", "<p>\x95</p>");
+    const SourceDocument document = parsed(bytes);
+    EXPECT_FALSE(document.isWellFormed());
+    EXPECT_EQ(document.root().textContent(), "\xef\xbf\xbd");
+    const ByteRange end = document.root().endTagRange();
+    EXPECT_EQ(bytes.substr(end.begin, end.size()), "</p>");
+}
+
 TEST(SourceDocumentEncodings, EveryFormOfBrokenUtf8IsTold)
 {
     // A lone continuation, an overlong form, a surrogate, beyond Unicode, an end in the middle.
