@@ -4,12 +4,16 @@ namespace zupackage::wire {
 
 namespace {
 
+/// @return whether the pair is that of the field.
 template <class Value>
-void decodeIfKeyed(const std::string& key, const VXValue& pair, const Field<zu::BehaviorInfoPrivate, Value>& field,
+bool decodeIfKeyed(const VXValue& pair, std::string_view key, const Field<zu::BehaviorInfoPrivate, Value>& field,
                    zu::BehaviorInfoPrivate& record)
 {
-    if (!field.isReserved && key == field.key)
+    if (key != field.key)
+        return false;
+    if (!field.isReserved)
         decode(pair[1], record.*field.pointer);
+    return true;
 }
 
 } // namespace
@@ -20,9 +24,8 @@ void decode(const VXValue& value, zu::BehaviorInfoPrivate& record)
         return;
     for (int i = 0; i < value.size(); ++i) {
         const VXValue& pair = value[i];
-        std::string key;
-        decode(pair[0], key);
-        std::apply([&](const auto&... field) { (decodeIfKeyed(key, pair, field, record), ...); },
+        const std::string& key = pair[0];
+        std::apply([&](const auto&... field) { static_cast<void>((decodeIfKeyed(pair, key, field, record) || ...)); },
                    k_fields<zu::BehaviorInfoPrivate>);
     }
     record.permissions.unique();

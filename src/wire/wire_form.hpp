@@ -134,9 +134,11 @@ void decode(const VXValue& value, std::map<std::string, Value>& map)
     requireArray(value);
     map.clear();
     for (int i = 0; i < value.size(); ++i) {
-        std::string key;
-        decode(value[i][0], key);
-        decode(value[i][1], map[key]);
+        const VXValue& pair = value[i];
+        const std::string& key = pair[0];
+        // They come in order.
+        const auto entry = map.try_emplace(map.end(), key);
+        decode(pair[1], entry->second);
     }
 }
 
