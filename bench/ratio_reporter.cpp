@@ -8,7 +8,8 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs)
 {
     for (const Run& run : runs) {
         if (run.run_type == Run::RT_Iteration || run.aggregate_name == "median")
-            m_times[run.run_name.str()] = run.GetAdjustedCPUTime();
+            m_times[run.run_name.str()] =
+                run.run_name.time_type.empty() ? run.GetAdjustedCPUTime() : run.GetAdjustedRealTime();
     }
     ConsoleReporter::ReportRuns(runs);
 }

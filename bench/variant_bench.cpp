@@ -1,75 +1,21 @@
 // The variant and the records' wire form, beside the trees that a program would build instead: the same content as
 // nlohmann::json and as a QVariantList.
+#include "json_package.hpp"
 #include "ratio_reporter.hpp"
 #include "sample_packages.hpp"
 
 #include <QtCore/QVariant>
 
 #include <benchmark/benchmark.h>
-#include <nlohmann/json.hpp>
 
 namespace {
 
 using bench::encoded;
+using bench::json;
+using bench::jsonOf;
 using bench::package;
-using nlohmann::json;
 using VX::VXValue;
 using zu::PackageInfo;
-
-// What the encoding says of these packages, from the same records, in another tree; without the pairs that are empty
-// here, which leaves the variant with a little more to do.
-
-json pairOf(const char* key, json value) { return json::array({key, std::move(value)}); }
-
-json jsonOf(const std::map<std::string, std::string>& map)
-{
-    json array = json::array();
-    for (const auto& [key, text] : map)
-        array.push_back(json::array({key, text}));
-    return array;
-}
-
-json jsonOf(const std::list<std::string>& texts)
-{
-    json array = json::array();
-    for (const std::string& text : texts)
-        array.push_back(text);
-    return array;
-}
-
-json jsonOf(const std::map<std::string, std::list<std::string>>& map)
-{
-    json array = json::array();
-    for (const auto& [key, texts] : map)
-        array.push_back(json::array({key, jsonOf(texts)}));
-    return array;
-}
-
-json jsonOf(const zu::BehaviorInfo& behavior)
-{
-    json array = json::array();
-    array.push_back(pairOf("path", behavior.path()));
-    array.push_back(pairOf("nature", behavior.nature()));
-    array.push_back(pairOf("names", jsonOf(behavior.names())));
-    array.push_back(pairOf("descriptions", jsonOf(behavior.descriptions())));
-    array.push_back(pairOf("categories", nullptr));
-    array.push_back(pairOf("tags", jsonOf(behavior.languagesToTags())));
-    array.push_back(pairOf("triggerSentences", jsonOf(behavior.languagesToTriggerSentences())));
-    array.push_back(pairOf("loadingResponses", jsonOf(behavior.languagesToLoadingResponses())));
-    array.push_back(pairOf("conditions", jsonOf({{"entertain", behavior.conditions("entertain")}})));
-    array.push_back(pairOf("permissions", jsonOf(behavior.permissions())));
-    array.push_back(pairOf("userRequestable", behavior.isUserRequestable()));
-    return array;
-}
-
-json jsonOf(const PackageInfo& package)
-{
-    json behaviors = json::array();
-    for (const zu::BehaviorInfo& behavior : package.behaviors())
-        behaviors.push_back(jsonOf(behavior));
-    return json::array({pairOf("uuid", package.uuid()), pairOf("version", package.version()),
-                        pairOf("names", jsonOf(package.names())), pairOf("behaviors", std::move(behaviors))});
-}
 
 /// The tree of a json as a QVariantList.
 QVariant qVariantOf(const json& value)
@@ -219,7 +165,7 @@ void appendBytes(benchmark::State& state)
 BENCHMARK(appendBytes)->Name("type error of 1 MiB/its bytes appended");
 
 // Growth has no target here: 1,000 behaviors leave the caches that 100 fit into, so that any tree grows by more than
-// ten times. `growth`, which counts instructions, has one.
+// ten times. `instructions` has one.
 std::vector<bench::Target> targets()
 {
     return {{"encode/VXValue", "encode/json", 1.0},

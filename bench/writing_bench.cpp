@@ -1,37 +1,39 @@
 // Writing a package, beside what Qt takes to turn a document that is there already into text.
 #include "ratio_reporter.hpp"
-#include "sample_packages.hpp"
+#include "sample_manifests.hpp"
 
 #include <QtXml/QDomDocument>
 
 namespace {
 
-void saveToManifestContent(benchmark::State& state)
+void saveToManifestContent(benchmark::State& state, const std::string& content)
 {
-    zu::PackageInfo package = bench::package(static_cast<int>(state.range(0)));
+    zu::PackageInfo package;
+    package.loadFromManifestContent(content);
     for (auto _ : state)
         benchmark::DoNotOptimize(package.saveToManifestContent());
 }
 
-void finishedTreeToString(benchmark::State& state)
+void finishedTreeToString(benchmark::State& state, const std::string& content)
 {
-    zu::PackageInfo package = bench::package(static_cast<int>(state.range(0)));
     QDomDocument document;
-    document.setContent(QByteArray::fromStdString(package.saveToManifestContent()));
+    document.setContent(QByteArray::fromStdString(content));
     for (auto _ : state)
         benchmark::DoNotOptimize(document.toString(1));
 }
 
-BENCHMARK(saveToManifestContent)->RangeMultiplier(10)->Range(1, 1000);
-BENCHMARK(finishedTreeToString)->RangeMultiplier(10)->Range(1, 1000);
+/// How long writing may take in proportion.
+constexpr double k_atMost = 0.2;
 
 } // namespace
 
 int main(int argc, char** argv)
 {
     std::vector<bench::Target> targets;
-    for (const char* behaviors : {"1", "10", "100", "1000"})
-        targets.push_back({std::string("saveToManifestContent/") + behaviors,
-                           std::string("finishedTreeToString/") + behaviors, 0.20});
+    for (const auto& [name, content] : bench::sampleManifests()) {
+        targets.push_back({"saveToManifestContent/" + name, "finishedTreeToString/" + name, k_atMost});
+        benchmark::RegisterBenchmark(targets.back().what.c_str(), saveToManifestContent, content);
+        benchmark::RegisterBenchmark(targets.back().floor.c_str(), finishedTreeToString, content);
+    }
     return bench::run(argc, argv, targets);
 }

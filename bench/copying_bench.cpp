@@ -1,0 +1,48 @@
+// Copying a package, by itself and held by a value of the type system, beside copying its containers.
+#include "bare_package.hpp"
+#include "ratio_reporter.hpp"
+#include "sample_packages.hpp"
+
+#include <zu/any_value.hpp>
+
+namespace {
+
+zu::PackageInfo package(const benchmark::State& state) { return bench::package(static_cast<int>(state.range(0))); }
+
+void copyContainers(benchmark::State& state)
+{
+    const bench::BarePackage source = bench::bare(package(state));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(bench::BarePackage(source));
+}
+
+void copyPackage(benchmark::State& state)
+{
+    const zu::PackageInfo source = package(state);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(zu::PackageInfo(source));
+}
+
+void copyAnyValue(benchmark::State& state)
+{
+    const zu::AnyValue source = zu::AnyValue::from(package(state));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(zu::AnyValue(source));
+}
+
+BENCHMARK(copyContainers)->RangeMultiplier(10)->Range(1, 1000);
+BENCHMARK(copyPackage)->RangeMultiplier(10)->Range(1, 1000);
+BENCHMARK(copyAnyValue)->RangeMultiplier(10)->Range(1, 1000);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    std::vector<bench::Target> targets;
+    for (const char* behaviors : {"/1", "/10", "/100", "/1000"}) {
+        const std::string floor = std::string("copyContainers") + behaviors;
+        targets.push_back({std::string("copyPackage") + behaviors, floor, 1.1});
+        targets.push_back({std::string("copyAnyValue") + behaviors, floor, 1.1});
+    }
+    return bench::run(argc, argv, std::move(targets));
+}
