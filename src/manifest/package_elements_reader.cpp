@@ -8,7 +8,7 @@ namespace zupackage {
 
 using namespace names;
 
-void readSections(xml::Node root, const std::vector<Section>& sections)
+void readSections(xml::Node root, std::initializer_list<Section> sections)
 {
     for (const xml::Node child : root.children()) {
         // A processing instruction may have the name of a section.

@@ -11,7 +11,7 @@
 #include <zupackage/package_info.hpp>
 
 #include <functional>
-#include <vector>
+#include <initializer_list>
 
 /// What the readers of both package models have in common. Containers may be lists or vectors; what is read is
 /// appended.
@@ -26,7 +26,7 @@ struct Section
 
 /// Reads each element under the document's root by the first section of its name, in document order. Others are passed
 /// over, and so are nodes of other kinds.
-void readSections(xml::Node root, const std::vector<Section>& sections);
+void readSections(xml::Node root, std::initializer_list<Section> sections);
 
 /// Reads a "service" element into a fresh service. The first value of a repeated "envVar" name stays, with a warning
 /// for each repetition.
