@@ -52,6 +52,8 @@ function(zu_add_library target)
         INSTALL_RPATH "$ORIGIN")
     target_compile_features(${target} PUBLIC cxx_std_17)
     target_link_libraries(${target} PRIVATE ${target}_objects)
+    # Fewer symbols to look up, and sooner found, when a program starts.
+    target_link_options(${target} PRIVATE LINKER:-O1,-Bsymbolic-functions)
 
     foreach(side IN ITEMS ${target} ${target}_objects)
         target_include_directories(${side} PUBLIC
