@@ -1,0 +1,135 @@
+#include "commands/new.hpp"
+
+#include "new/skeleton.hpp"
+#include "output.hpp"
+
+#include <zupackage/authoring/check.hpp>
+
+#include <QtCore/QUuid>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <memory>
+#include <system_error>
+#include <unistd.h>
+
+namespace zu::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct NewArguments
+{
+    std::vector<std::string> folders;
+    std::string kind = "behavior";
+    std::string uuid;
+    std::string name;
+    std::vector<std::string> languages;
+};
+
+void complain(const std::string& message) { std::fprintf(stderr, "zupackage: %s\n", message.c_str()); }
+
+std::string lastNameOf(const std::string& folder)
+{
+    std::error_code error;
+    const fs::path absolute = fs::absolute(folder, error).lexically_normal();
+    return (absolute.has_filename() ? absolute : absolute.parent_path()).filename().string();
+}
+
+SkeletonWish wishOf(const NewArguments& arguments, const std::string& folder)
+{
+    SkeletonWish wish;
+    wish.kind = arguments.kind;
+    wish.name = arguments.name.empty() ? lastNameOf(folder) : arguments.name;
+    wish.slug = slugOf(wish.name);
+    wish.uuid =
+        arguments.uuid.empty() ? QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() : arguments.uuid;
+    wish.languages = arguments.languages.empty() ? std::vector<std::string>{"en"} : arguments.languages;
+    return wish;
+}
+
+/// Says what a check of the manifest finds, which comes from what the user gave.
+/// @return whether it finds nothing.
+bool isFlawless(const std::string& manifest)
+{
+    const authoring::CheckReport report = authoring::check(authoring::SourceDocument::parse(manifest));
+    for (const authoring::Diagnostic& finding : report.findings)
+        complain(finding.message);
+    return report.findings.empty();
+}
+
+/// Makes a file that is not there yet, with the folders that it lies in.
+/// @return why it could not be made; empty when it was.
+std::string makeFile(const fs::path& path, const std::string& content, bool isExecutable)
+{
+    std::error_code error;
+    fs::create_directories(path.parent_path(), error);
+    if (error)
+        return error.message();
+    const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, isExecutable ? 0777 : 0666);
+    if (file < 0)
+        return std::strerror(errno);
+    const bool isWritten = write(file, content.data(), content.size()) == static_cast<ssize_t>(content.size());
+    const int reason = errno;
+    const bool isClosed = close(file) == 0;
+    return isWritten && isClosed ? std::string() : std::strerror(isWritten ? errno : reason);
+}
+
+ExitCode makePackage(const NewArguments& arguments, const std::string& folder)
+{
+    Skeleton skeleton;
+    makeSkeleton(wishOf(arguments, folder), skeleton);
+    const std::string manifest = skeleton.package.saveToManifestContent();
+    if (!isFlawless(manifest))
+        return k_usage;
+
+    // Last, so that a folder with a manifest has all that it names.
+    skeleton.files.push_back({"manifest.xml", manifest, false});
+    std::error_code error;
+    for (const SkeletonFile& file : skeleton.files) {
+        if (fs::symlink_status(fs::path(folder) / file.path, error).type() != fs::file_type::not_found) {
+            complain((fs::path(folder) / file.path).string() + " is there already");
+            return k_outputFailed;
+        }
+    }
+    for (const SkeletonFile& file : skeleton.files) {
+        const fs::path path = fs::path(folder) / file.path;
+        const std::string failure = makeFile(path, file.content, file.isExecutable);
+        if (!failure.empty()) {
+            complain("cannot make " + path.string() + ": " + failure);
+            return k_outputFailed;
+        }
+        if (!writeOutput(path.string() + "\n"))
+            return k_outputFailed;
+    }
+    return k_success;
+}
+
+ExitCode makePackages(const NewArguments& arguments)
+{
+    ExitCode result = k_success;
+    for (const std::string& folder : arguments.folders)
+        result = worse(result, makePackage(arguments, folder));
+    return result;
+}
+
+std::function<ExitCode()> prepare(Arguments& arguments)
+{
+    auto parsed = std::make_shared<NewArguments>();
+    arguments.require(parsed->folders, "FOLDER", "FOLDER", "Where the package is to be; files that are there stay");
+    arguments.choice(parsed->kind, "--kind", skeletonKinds(), "What the package is for");
+    arguments.option(parsed->uuid, "--uuid", "ID", "What installers know the package by; by default a random one");
+    arguments.option(parsed->name, "--name", "TEXT", "What the package is called; by default as the folder");
+    arguments.repeated(parsed->languages, "--language", "CODE", "A language of the package; by default en");
+    return [parsed] { return makePackages(*parsed); };
+}
+
+} // namespace
+
+const Command k_new = {"new", "Make the skeleton of a package", prepare};
+
+} // namespace zu::cli

@@ -1,0 +1,96 @@
+#include "support/files.hpp"
+#include "support/program.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace zu {
+
+using test::ProgramResult;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+ProgramResult zupackage(const std::vector<std::string>& arguments)
+{
+    return test::runProgram(ZUPACKAGE_PROGRAM, arguments);
+}
+
+class NewCommand : public testing::Test
+{
+protected:
+    std::string path(const std::string& name) const { return (folder.path() / name).string(); }
+
+    test::TemporaryFolder folder;
+};
+
+} // namespace
+
+TEST_F(NewCommand, MakesPackagesOfEachKindThatPassTheCheck)
+{
+    for (const char* kind : {"behavior", "dialog", "language", "service"}) {
+        const std::string package = path(kind);
+        const ProgramResult made = zupackage({"new", package, "--kind", kind, "--language", "en", "--language", "fr_CA",
+                                              "--name", "Grüß dich & <Co>", "--uuid", "org.example.x"});
+        EXPECT_EQ(made.exitCode, 0) << made.errors;
+        EXPECT_THAT(made.output, HasSubstr(package + "/manifest.xml\n"));
+        const ProgramResult checked = zupackage({"check", "--fail-on", "pedantic", package});
+        EXPECT_EQ(checked.exitCode, 0);
+        EXPECT_THAT(checked.output, IsEmpty());
+        EXPECT_THAT(zupackage({"show", package}).output, HasSubstr("Grüß dich & <Co>"));
+    }
+}
+
+TEST_F(NewCommand, NeedsNothingButAFolder)
+{
+    EXPECT_EQ(zupackage({"new", path("Wave Hello/")}).exitCode, 0);
+    const std::string manifest = test::readFile(path("Wave Hello/manifest.xml"));
+    EXPECT_THAT(manifest, HasSubstr("<name lang=\"en\">Wave Hello</name>"));
+    EXPECT_THAT(manifest, HasSubstr("<behaviorContent path=\"behaviors/wave-hello\">"));
+    EXPECT_EQ(zupackage({"check", "--fail-on", "pedantic", path("Wave Hello")}).exitCode, 0);
+}
+
+TEST_F(NewCommand, MakesServicesExecutable)
+{
+    EXPECT_EQ(zupackage({"new", path("clock"), "--kind", "service"}).exitCode, 0);
+    const auto permissions = std::filesystem::status(path("clock/bin/clock")).permissions();
+    EXPECT_NE(permissions & std::filesystem::perms::owner_exec, std::filesystem::perms::none);
+}
+
+TEST_F(NewCommand, OverwritesNothing)
+{
+    folder.file("manifest.xml", "mine");
+    const ProgramResult result = zupackage({"new", folder.path().string(), "--name", "x"});
+    EXPECT_EQ(result.exitCode, 5);
+    EXPECT_EQ(result.errors, "zupackage: " + path("manifest.xml") + " is there already\n");
+    EXPECT_EQ(test::readFile(path("manifest.xml")), "mine");
+    EXPECT_FALSE(std::filesystem::exists(path("behaviors")));
+}
+
+TEST_F(NewCommand, ADanglingLinkIsThereAlready)
+{
+    std::filesystem::create_symlink("nowhere", path("manifest.xml"));
+    EXPECT_EQ(zupackage({"new", folder.path().string()}).exitCode, 5);
+    EXPECT_FALSE(std::filesystem::exists(path("nowhere")));
+}
+
+TEST_F(NewCommand, AFolderThatCannotBeMadeIsAFailureOfOutput)
+{
+    folder.file("file", "");
+    EXPECT_EQ(zupackage({"new", path("file/package")}).exitCode, 5);
+}
+
+TEST_F(NewCommand, RefusesWhatAManifestShouldNotHold)
+{
+    const ProgramResult result = zupackage({"new", path("a"), "--language", "english"});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_THAT(result.errors, HasSubstr("\"english\" is no language code"));
+    EXPECT_FALSE(std::filesystem::exists(path("a")));
+}
+
+TEST_F(NewCommand, KnowsItsKinds) { EXPECT_EQ(zupackage({"new", path("a"), "--kind", "game"}).exitCode, 2); }
+
+} // namespace zu
