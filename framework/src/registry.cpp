@@ -11,7 +11,6 @@
 #include <shared_mutex>
 #include <stdexcept>
 #include <unordered_map>
-#include <unordered_set>
 #include <utility>
 
 namespace zu {
@@ -81,13 +80,13 @@ public:
         return {answer, nullptr};
     }
 
-    const TypeInterface* settle(const TypeInfo& info, const TypeInterface* made)
+    const TypeInterface* settle(const TypeInfo& info, const TypeInterface* made, detail::RawNames& rawName)
     {
         const std::unique_lock lock(m_mutex);
         const auto registered = m_byInfo.find(info);
         if (registered != m_byInfo.end())
             return registered->second;
-        m_made.insert(info.index().raw_name());
+        m_made.merge(rawName);
         return made;
     }
 
@@ -127,7 +126,7 @@ private:
     std::unordered_map<TypeInfo, const TypeInterface*> m_byInfo;
     ByName m_byName;
     /// The types whose interface some library has made; by name, for the library may be unloaded.
-    std::unordered_set<std::string> m_made;
+    detail::RawNames m_made;
 };
 
 std::string takenMessage(const TypeInterface& type, const TypeInterface& owner)
@@ -182,9 +181,9 @@ const TypeInterface* findType(std::string_view name) { return Registry::instance
 
 namespace detail {
 
-const TypeInterface* settledType(const TypeInfo& info, const TypeInterface* made)
+const TypeInterface* settledType(const TypeInfo& info, const TypeInterface* made, RawNames& rawName)
 {
-    return Registry::instance().settle(info, made);
+    return Registry::instance().settle(info, made, rawName);
 }
 
 bool registerOwned(std::unique_ptr<const StructTypeInterface> type)

@@ -107,7 +107,8 @@ const TypeInterface* registeredOrMade(const TypeInfo& info, TypeSlot::Make make)
         throw std::invalid_argument(info.name() + " stands in an anonymous namespace, which the type system cannot "
                                                   "tell from another library's; give the namespace a name");
     }
-    return settledType(info, make());
+    RawNames rawName{info.index().raw_name()};
+    return settledType(info, make(), rawName);
 }
 
 } // namespace
