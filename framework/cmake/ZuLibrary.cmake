@@ -15,6 +15,7 @@ endif()
 
 option(ZU_WERROR "Treat compiler warnings as errors" OFF)
 option(ZU_HEADERS_ALONE "Compile each public header alone" OFF)
+option(ZU_UNITY "Compile several sources together, in targets that are UNITY" OFF)
 
 # One strictness for every target of ours.
 function(zu_compile_options target)
@@ -30,13 +31,23 @@ function(zu_compile_options target)
         $<$<BOOL:${ZU_WERROR}>:-Werror>)
 endfunction()
 
+function(zu_compile_together target is_unity)
+    if(ZU_UNITY AND is_unity)
+        set_target_properties(${target} PROPERTIES UNITY_BUILD ON)
+        # To GCC the included sources are headers, which should have no anonymous namespaces.
+        target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+    endif()
+endfunction()
+
 # A shared library ${target} with an export header <${folder}/export.hpp> that defines ${macro}, and the object library
 # ${target}_objects behind it: its sources are compiled once, and tests of private operations link the objects.
+# UNITY: no two sources have the same name for different things, so that they can be compiled together.
 function(zu_add_library target)
-    cmake_parse_arguments(arg "" "EXPORT_NAME;FOLDER;MACRO" "SOURCES" ${ARGN})
+    cmake_parse_arguments(arg "UNITY" "EXPORT_NAME;FOLDER;MACRO" "SOURCES" ${ARGN})
 
     add_library(${target}_objects OBJECT ${arg_SOURCES})
     zu_compile_options(${target}_objects)
+    zu_compile_together(${target}_objects ${arg_UNITY})
     set(generated ${CMAKE_CURRENT_BINARY_DIR}/generated)
     generate_export_header(${target}_objects BASE_NAME ${target}
         EXPORT_MACRO_NAME ${arg_MACRO}
@@ -115,11 +126,12 @@ function(zu_test_compile_options target)
 endfunction()
 
 # A GoogleTest program whose cases CTest lists one by one and runs in a process each. THREADS: it has cases that start
-# threads, for ThreadSanitizer.
+# threads, for ThreadSanitizer. UNITY: as for libraries.
 function(zu_add_tests target)
-    cmake_parse_arguments(arg "THREADS" "" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(arg "THREADS;UNITY" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${target} ${arg_SOURCES})
     zu_test_compile_options(${target})
+    zu_compile_together(${target} ${arg_UNITY})
     target_link_libraries(${target} PRIVATE ${arg_LIBRARIES} GTest::gmock GTest::gtest_main)
     if(NOT TARGET zu_test_headers)
         file(CONFIGURE OUTPUT zu_test_headers.cpp CONTENT "")

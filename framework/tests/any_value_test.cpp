@@ -39,7 +39,7 @@ using valuetest::Counted;
 
 namespace {
 
-struct Hidden
+struct Unnameable
 {
 };
 
@@ -218,9 +218,9 @@ TEST(AnyValue, OfAViewOfATextHoldsTheText)
 
 TEST(AnyValue, IsNeverOfATypeOfAnAnonymousNamespace)
 {
-    EXPECT_FALSE(AnyValue::from(1).holds<Hidden>());
-    EXPECT_EQ(AnyValue::from(1).getIf<Hidden>(), nullptr);
-    EXPECT_EQ(AnyValue::from(1).reference().getMutableIf<std::vector<Hidden>>(), nullptr);
+    EXPECT_FALSE(AnyValue::from(1).holds<Unnameable>());
+    EXPECT_EQ(AnyValue::from(1).getIf<Unnameable>(), nullptr);
+    EXPECT_EQ(AnyValue::from(1).reference().getMutableIf<std::vector<Unnameable>>(), nullptr);
 }
 
 TEST(AnyValue, IsWrittenThroughItsReferenceAlone)

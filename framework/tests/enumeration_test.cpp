@@ -8,7 +8,7 @@ namespace zu {
 
 namespace enumerationtest {
 
-enum class Level : signed char
+enum class Height : signed char
 {
     Low = -1,
     High = 1,
@@ -38,11 +38,11 @@ enum LooseUnknown
 using namespace enumerationtest;
 
 template <>
-struct EnumSchema<Level>
+struct EnumSchema<Height>
 {
     static std::vector<Enumerator> describe()
     {
-        return {{"Low", Level::Low}, {"High", Level::High}, {"Highest", Level::Highest}};
+        return {{"Low", Height::Low}, {"High", Height::High}, {"Highest", Height::Highest}};
     }
 };
 
@@ -111,7 +111,7 @@ TEST(Enumeration, WithoutAFixedTypeOrADescriptionTakeNoNumber)
 
 TEST(Enumeration, TellTheNamesOfTheirValues)
 {
-    const auto& type = intTypeOf<Level>();
+    const auto& type = intTypeOf<Height>();
     EXPECT_EQ(type.enumerators().size(), 3u);
     EXPECT_EQ(type.nameOf(-1), "Low");
     EXPECT_EQ(type.nameOf(1), "High");
@@ -120,7 +120,7 @@ TEST(Enumeration, TellTheNamesOfTheirValues)
     EXPECT_EQ(type.numberOf("highest"), std::nullopt);
     EXPECT_TRUE(intTypeOf<sample::Colour>().enumerators().empty());
     EXPECT_TRUE(intTypeOf<int>().enumerators().empty());
-    EXPECT_EQ(AnyValue::from(Level::Highest).enumName(), "High");
+    EXPECT_EQ(AnyValue::from(Height::Highest).enumName(), "High");
     EXPECT_EQ(AnyValue::from(1).enumName(), "");
     EXPECT_THROW(AnyValue::from("High").enumName(), std::runtime_error);
 }

@@ -1,4 +1,5 @@
 #include "support/samples.hpp"
+#include "support/struct_of.hpp"
 
 #include <zu/conversion.hpp>
 #include <zu/struct_bouncer.hpp>
@@ -73,11 +74,6 @@ using structsettest::Safe;
 using Named = std::map<std::string, AnyValue>;
 
 namespace {
-
-const StructTypeInterface& structOf(const TypeInterface* type)
-{
-    return dynamic_cast<const StructTypeInterface&>(*type);
-}
 
 Named widthAndColour(int width, const char* colour)
 {

@@ -1,5 +1,6 @@
 #include "support/log_capture.hpp"
 #include "support/samples.hpp"
+#include "support/struct_of.hpp"
 
 #include <zu/conversion.hpp>
 #include <zu/registry.hpp>
@@ -82,11 +83,6 @@ using structtest::Account;
 using structtest::AccountRecord;
 
 namespace {
-
-const StructTypeInterface& structOf(const TypeInterface* type)
-{
-    return dynamic_cast<const StructTypeInterface&>(*type);
-}
 
 template <class Call>
 std::string errorOf(Call call)

@@ -17,7 +17,7 @@ namespace zu {
 
 namespace {
 
-struct Hidden
+struct Anonymous
 {
 };
 
@@ -116,13 +116,13 @@ TEST(TypeOf, FirstUseMakesAStructKnownUnderItsName)
 TEST(TypeOf, RefusesTypesOfAnonymousNamespaces)
 {
     try {
-        typeOf<std::vector<Hidden>>();
+        typeOf<std::vector<Anonymous>>();
         FAIL();
     } catch (const std::invalid_argument& error) {
-        EXPECT_THAT(error.what(), testing::HasSubstr("(anonymous namespace)::Hidden"));
+        EXPECT_THAT(error.what(), testing::HasSubstr("(anonymous namespace)::Anonymous"));
         EXPECT_THAT(error.what(), testing::EndsWith("give the namespace a name"));
     }
-    EXPECT_THROW(typeOf<Hidden>(), std::invalid_argument);
+    EXPECT_THROW(typeOf<Anonymous>(), std::invalid_argument);
 }
 
 TEST(TypeSlot, EightThreadsMakeOneInterfaceInEachOfAThousandRounds)

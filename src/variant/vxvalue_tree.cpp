@@ -11,7 +11,7 @@ namespace VX {
 
 namespace {
 
-constexpr SourcePlace here(int line) { return {"src/vxvalue_tree.cpp", line}; }
+constexpr SourcePlace hereInTree(int line) { return {"src/vxvalue_tree.cpp", line}; }
 
 template <class Owned>
 Owned* copyOf(const Owned* source, const SourcePlace& place)
@@ -69,11 +69,11 @@ void VXValue::copyLeaf(const VXValue& other)
 {
     switch (other.m_type) {
     case Type::String:
-        m_value.string = copyOf(other.m_value.string, here(__LINE__));
+        m_value.string = copyOf(other.m_value.string, hereInTree(__LINE__));
         break;
     case Type::Object:
     case Type::Binary:
-        m_value.bytes = copyOf(other.m_value.bytes, here(__LINE__));
+        m_value.bytes = copyOf(other.m_value.bytes, hereInTree(__LINE__));
         break;
     case Type::Array:
     case Type::Invalid:
@@ -94,7 +94,7 @@ void VXValue::copyTree(const VXValue& other)
     while (!pending.empty()) {
         const auto [source, target] = pending.back();
         pending.pop_back();
-        assertThat(source->m_value.array != nullptr, here(__LINE__));
+        assertThat(source->m_value.array != nullptr, hereInTree(__LINE__));
         const Array& elements = *source->m_value.array;
         target->m_value.array = new Array(elements.size());
         target->m_type = Type::Array;

@@ -24,10 +24,10 @@ std::string written(const BehaviorInfo& behavior)
 
 TEST(BehaviorWriter, OfADefaultBehaviorHasPathNatureAndPermissions)
 {
-    EXPECT_EQ(written({}), "  <behaviorContent path=\"\">\n"
-                           "   <nature></nature>\n"
-                           "   <permissions/>\n"
-                           "  </behaviorContent>\n");
+    EXPECT_EQ(written(BehaviorInfo()), "  <behaviorContent path=\"\">\n"
+                                       "   <nature></nature>\n"
+                                       "   <permissions/>\n"
+                                       "  </behaviorContent>\n");
 }
 
 TEST(BehaviorWriter, OfAFullBehaviorKeepsTheOrderOfElements)

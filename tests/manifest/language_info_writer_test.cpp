@@ -17,10 +17,10 @@ std::string written(const LanguageInfo& language)
 
 TEST(LanguageWriter, EngineAndLocaleAreWrittenEvenWhenEmpty)
 {
-    EXPECT_THAT(written({}), testing::HasSubstr("  <languageContent path=\"\">\n"
-                                                "   <engine name=\"\" version=\"\"/>\n"
-                                                "   <locale></locale>\n"
-                                                "  </languageContent>\n"));
+    EXPECT_THAT(written(LanguageInfo()), testing::HasSubstr("  <languageContent path=\"\">\n"
+                                                            "   <engine name=\"\" version=\"\"/>\n"
+                                                            "   <locale></locale>\n"
+                                                            "  </languageContent>\n"));
 }
 
 TEST(LanguageWriter, WhatIsWrittenReadsBack)

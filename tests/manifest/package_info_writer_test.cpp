@@ -18,10 +18,10 @@ std::string written(PackageInfo package) { return package.saveToManifestContent(
 
 TEST(PackageWriter, OfADefaultPackageHasOneFlagAndEmptyContents)
 {
-    EXPECT_EQ(written({}), "<?xml version='1.0' encoding='UTF-8'?>\n"
-                           "<package installOnlyAtStartup=\"false\">\n"
-                           " <contents/>\n"
-                           "</package>\n");
+    EXPECT_EQ(written(PackageInfo()), "<?xml version='1.0' encoding='UTF-8'?>\n"
+                                      "<package installOnlyAtStartup=\"false\">\n"
+                                      " <contents/>\n"
+                                      "</package>\n");
 }
 
 TEST(PackageWriter, ElementsAndAttributesStandInTheirFixedOrder)
@@ -61,7 +61,7 @@ TEST(PackageWriter, RequirementsAreWrittenWhenThereIsOneOfEitherKind)
     PackageInfo morvo;
     morvo.addMorvoRequirement({});
     EXPECT_THAT(written(morvo), testing::HasSubstr("<requirements>\n  <morvoRequirement/>\n </requirements>"));
-    EXPECT_THAT(written({}), testing::Not(testing::HasSubstr("requirements")));
+    EXPECT_THAT(written(PackageInfo()), testing::Not(testing::HasSubstr("requirements")));
 }
 
 TEST(PackageWriter, EveryAttributeOfRequirementsAndServicesIsWritten)

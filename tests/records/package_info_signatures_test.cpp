@@ -12,7 +12,7 @@ namespace zu {
 using test::has;
 using P = PackageInfo;
 using Text = const std::string&;
-using Texts = const std::list<std::string>&;
+using TextList = const std::list<std::string>&;
 using TextMap = const std::map<std::string, std::string>&;
 
 static_assert(std::is_same_v<decltype(std::declval<P&>() = std::declval<const P&>()), P>, "assignment gives a copy");
@@ -30,7 +30,8 @@ static_assert(has<void (P::*)(const bool&)>(&P::setInstallOnlyAtStartup));
 static_assert(has<Text (P::*)(Text) const>(&P::name) && has<Text (P::*)(Text) const>(&P::description));
 static_assert(has<void (P::*)(Text, Text)>(&P::setName) && has<void (P::*)(std::string, Text)>(&P::setDescription));
 static_assert(has<TextMap (P::*)() const>(&P::names) && has<TextMap (P::*)() const>(&P::descriptions));
-static_assert(has<Texts (P::*)() const>(&P::supportedLanguages) && has<Texts (P::*)() const>(&P::descriptionLanguages));
+static_assert(has<TextList (P::*)() const>(&P::supportedLanguages) &&
+              has<TextList (P::*)() const>(&P::descriptionLanguages));
 static_assert(std::is_same_v<decltype(std::declval<const P&>().behaviors()), const std::list<BehaviorInfo>&>);
 static_assert(std::is_same_v<decltype(std::declval<P&>().behaviors()), std::list<BehaviorInfo>&>);
 static_assert(has<const std::list<DialogInfo>& (P::*)() const>(&P::dialogs));
@@ -38,7 +39,7 @@ static_assert(has<const std::list<LanguageInfo>& (P::*)() const>(&P::languages))
 static_assert(has<std::list<RobotRequirement>& (P::*)() const>(&P::robotRequirements), "mutable from a const package");
 static_assert(has<std::list<MorvoRequirement>& (P::*)() const>(&P::morvoRequirements), "mutable from a const package");
 static_assert(has<const std::list<PackageService>& (P::*)() const>(&P::services));
-static_assert(has<Texts (P::*)() const>(&P::executableFiles));
+static_assert(has<TextList (P::*)() const>(&P::executableFiles));
 static_assert(has<bool (P::*)() const>(&P::hasBehavior));
 static_assert(has<void (P::*)(Text)>(&P::addSupportedLanguage) && has<void (P::*)(Text)>(&P::removeSupportedLanguage));
 static_assert(has<void (P::*)(Text)>(&P::addDescriptionLanguage) &&

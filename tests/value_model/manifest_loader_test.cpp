@@ -20,7 +20,7 @@ using testing::StartsWith;
 
 namespace {
 
-using Texts = std::map<std::string, std::string>;
+using TextsByLanguage = std::map<std::string, std::string>;
 using Requirements = std::pair<std::vector<RobotRequirement>, std::vector<MorvoRequirement>>;
 
 PackageInfo2 loaded(const std::string& document)
@@ -85,8 +85,8 @@ TEST(LoadManifest, StoresTextsByLanguage)
     const PackageInfo2 package =
         loaded(manifest("<names><name lang='en'>first</name><any lang='en'>sec<b>on</b>d</any><!-- c --></names>"
                         "<descriptions><description lang='日'>本</description></descriptions>"));
-    EXPECT_THAT(element<Texts>(package, "names"), ElementsAre(Pair("", ""), Pair("en", "second")));
-    EXPECT_THAT(element<Texts>(package, "descriptions"), ElementsAre(Pair("日", "本")));
+    EXPECT_THAT(element<TextsByLanguage>(package, "names"), ElementsAre(Pair("", ""), Pair("en", "second")));
+    EXPECT_THAT(element<TextsByLanguage>(package, "descriptions"), ElementsAre(Pair("日", "本")));
 }
 
 TEST(LoadManifest, StoresServicesAndWarnsOfRepeatedVariables)
@@ -183,7 +183,7 @@ TEST(LoadManifest, AnInstructionIsNoSection)
     const PackageInfo2 package =
         loaded(manifest("<names><name lang='en'>n</name></names><?names x?><?services x?><!-- names -->"));
     EXPECT_THAT(package.elements, ElementsAre(Key("names")));
-    EXPECT_THAT(element<Texts>(package, "names"), ElementsAre(Pair("en", "n")));
+    EXPECT_THAT(element<TextsByLanguage>(package, "names"), ElementsAre(Pair("en", "n")));
 }
 
 TEST(LoadManifest, EmptySectionsAreStoredEmpty)
@@ -193,7 +193,7 @@ TEST(LoadManifest, EmptySectionsAreStoredEmpty)
     EXPECT_THAT(package.elements,
                 ElementsAre(Key("contents"), Key("descriptions"), Key("executableFiles"), Key("names"),
                             Key("requirements"), Key("services"), Key("supportedLanguages")));
-    EXPECT_THAT(element<Texts>(package, "names"), IsEmpty());
+    EXPECT_THAT(element<TextsByLanguage>(package, "names"), IsEmpty());
     EXPECT_THAT(package.contents(), IsEmpty());
 }
 
@@ -203,7 +203,7 @@ TEST(LoadManifest, ALaterSectionOfTheSameNameReplacesTheEarlier)
         loaded(manifest("<names><name lang='en'>1</name></names><executableFiles><file path='1'/></executableFiles>"
                         "<contents><behaviorContent path='1'/></contents><names><name lang='fr'>2</name></names>"
                         "<executableFiles/><contents><webContent path='2'/></contents>"));
-    EXPECT_THAT(element<Texts>(package, "names"), ElementsAre(Pair("fr", "2")));
+    EXPECT_THAT(element<TextsByLanguage>(package, "names"), ElementsAre(Pair("fr", "2")));
     EXPECT_THAT(element<std::vector<std::string>>(package, "executableFiles"), IsEmpty());
     EXPECT_THAT(package.contents(), ElementsAre(Key("web")));
 }

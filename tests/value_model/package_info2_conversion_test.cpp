@@ -15,7 +15,7 @@ using testing::ElementsAre;
 
 namespace {
 
-using Texts = std::map<std::string, std::string>;
+using TextsByLanguage = std::map<std::string, std::string>;
 using Requirements = std::pair<std::vector<RobotRequirement>, std::vector<MorvoRequirement>>;
 
 } // namespace
@@ -57,8 +57,8 @@ TEST(PackageFromValue, TakesEveryField)
 TEST(PackageFromValue, TakesEveryElementInOrder)
 {
     PackageInfo2 source;
-    source.elements["names"] = AnyValue::from(Texts{{"en", "name"}, {"fr", "nom"}});
-    source.elements["descriptions"] = AnyValue::from(Texts{{"en", "description"}});
+    source.elements["names"] = AnyValue::from(TextsByLanguage{{"en", "name"}, {"fr", "nom"}});
+    source.elements["descriptions"] = AnyValue::from(TextsByLanguage{{"en", "description"}});
     source.elements["services"] = AnyValue::from(
         std::vector<PackageService>{{"run", "first", true, {{"A", "1"}}}, {"stop", "second", false, {}}});
     source.elements["executableFiles"] = AnyValue::from(std::vector<std::string>{"b", "a", "b"});

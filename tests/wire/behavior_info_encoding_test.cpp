@@ -39,7 +39,7 @@ VXValue encoded(const BehaviorInfo& behavior)
     return value;
 }
 
-VXValue everythingEncoded() { return encoded(wholeBehavior()); }
+VXValue wholeBehaviorEncoded() { return encoded(wholeBehavior()); }
 
 /// The behavior of one pair.
 BehaviorInfo decoded(const std::string& key, VXValue value) { return array({pair(key, std::move(value))}); }
@@ -57,16 +57,17 @@ TEST(BehaviorEncoding, CarriesAListThatAGetterCreated)
 
 TEST(BehaviorEncoding, ReplacesWhatAnArrayHolds)
 {
-    for (const VXValue& before : {array({}), array({1, "x"}), everythingEncoded(), array(std::vector<VXValue>(40))}) {
+    for (const VXValue& before :
+         {array({}), array({1, "x"}), wholeBehaviorEncoded(), array(std::vector<VXValue>(40))}) {
         VXValue value = before;
         wholeBehavior().toVXValue(value);
-        EXPECT_EQ(layout(value), layout(everythingEncoded())) << layout(before);
+        EXPECT_EQ(layout(value), layout(wholeBehaviorEncoded())) << layout(before);
     }
 }
 
 TEST(BehaviorEncoding, LeavesCategoriesInvalidWhateverStoodThere)
 {
-    VXValue value = everythingEncoded();
+    VXValue value = wholeBehaviorEncoded();
     value[4][1] = textArray({"left over"});
     wholeBehavior().toVXValue(value);
     EXPECT_EQ(value[4][1].type(), VXValue::Type::Invalid);
@@ -83,17 +84,17 @@ TEST(BehaviorEncoding, RefusesWhatIsNoArray)
 
 TEST(BehaviorDecoding, GivesWhatWasEncoded)
 {
-    EXPECT_EQ(dumpOf(BehaviorInfo(everythingEncoded())), dumpOf(wholeBehavior()));
-    EXPECT_EQ(layout(encoded(everythingEncoded())), layout(everythingEncoded()));
+    EXPECT_EQ(dumpOf(BehaviorInfo(wholeBehaviorEncoded())), dumpOf(wholeBehavior()));
+    EXPECT_EQ(layout(encoded(BehaviorInfo(wholeBehaviorEncoded()))), layout(wholeBehaviorEncoded()));
 }
 
 TEST(BehaviorDecoding, TakesPairsInAnyOrder)
 {
-    std::vector<VXValue> pairs = test::elementsOf(everythingEncoded());
+    std::vector<VXValue> pairs = test::elementsOf(wholeBehaviorEncoded());
     std::reverse(pairs.begin(), pairs.end());
-    EXPECT_EQ(layout(encoded(array(pairs))), layout(everythingEncoded()));
+    EXPECT_EQ(layout(encoded(BehaviorInfo(array(pairs)))), layout(wholeBehaviorEncoded()));
     std::rotate(pairs.begin(), pairs.begin() + 4, pairs.end());
-    EXPECT_EQ(layout(encoded(array(pairs))), layout(everythingEncoded()));
+    EXPECT_EQ(layout(encoded(BehaviorInfo(array(pairs)))), layout(wholeBehaviorEncoded()));
 }
 
 TEST(BehaviorDecoding, LeavesFieldsWithoutAPairEmpty)

@@ -25,7 +25,7 @@ static_assert(std::is_convertible_v<const VXValue&, DialogInfo>);
 
 namespace {
 
-DialogInfo everything()
+DialogInfo wholeDialog()
 {
     DialogInfo dialog;
     dialog.setTopicName("topic");
@@ -41,13 +41,13 @@ VXValue dialogOf(VXValue topicName, VXValue typeVersion, VXValue topics)
                   pair("topics", std::move(topics))});
 }
 
-VXValue everythingEncoded() { return dialogOf("topic", "1.0", array({pair("en", "en.top"), pair("fr", "fr.top")})); }
+VXValue wholeDialogEncoded() { return dialogOf("topic", "1.0", array({pair("en", "en.top"), pair("fr", "fr.top")})); }
 
 } // namespace
 
 TEST(DialogEncoding, HasThreePairsInTheirFixedOrder)
 {
-    EXPECT_EQ(layout(everything().toVXValue()), layout(everythingEncoded()));
+    EXPECT_EQ(layout(wholeDialog().toVXValue()), layout(wholeDialogEncoded()));
 }
 
 TEST(DialogEncoding, OfAnEmptyDialogHasAllPairs)
@@ -55,22 +55,22 @@ TEST(DialogEncoding, OfAnEmptyDialogHasAllPairs)
     EXPECT_EQ(layout(DialogInfo().toVXValue()), layout(dialogOf("", "", array({}))));
 }
 
-TEST(DialogDecoding, GivesWhatWasEncoded) { EXPECT_EQ(DialogInfo(everythingEncoded()), everything()); }
+TEST(DialogDecoding, GivesWhatWasEncoded) { EXPECT_EQ(DialogInfo(wholeDialogEncoded()), wholeDialog()); }
 
 TEST(DialogDecoding, GoesByPositionAndIgnoresTheKeys)
 {
-    VXValue value = everythingEncoded();
+    VXValue value = wholeDialogEncoded();
     value[0][0] = "topics";
     value[1][0] = 7;
     value[2][0] = VXValue();
-    EXPECT_EQ(DialogInfo(value), everything());
+    EXPECT_EQ(DialogInfo(value), wholeDialog());
 }
 
 TEST(DialogDecoding, IgnoresWhatFollowsAPair)
 {
-    VXValue value = everythingEncoded();
+    VXValue value = wholeDialogEncoded();
     value[0].resizeArray(3);
-    EXPECT_EQ(DialogInfo(value), everything());
+    EXPECT_EQ(DialogInfo(value), wholeDialog());
 }
 
 TEST(DialogDecoding, OfARepeatedLanguageTheLaterTopicStays)
@@ -81,7 +81,7 @@ TEST(DialogDecoding, OfARepeatedLanguageTheLaterTopicStays)
 
 TEST(DialogDecoding, OfAnotherOuterShapeGivesAnEmptyDialog)
 {
-    std::vector<VXValue> pairs = test::elementsOf(everythingEncoded());
+    std::vector<VXValue> pairs = test::elementsOf(wholeDialogEncoded());
     pairs.push_back(pairs.back());
     EXPECT_EQ(DialogInfo(array(pairs)), DialogInfo()) << "four pairs";
     pairs.resize(2);

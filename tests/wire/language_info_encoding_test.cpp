@@ -24,7 +24,7 @@ static_assert(std::is_convertible_v<const VXValue&, LanguageInfo>);
 
 namespace {
 
-LanguageInfo everything()
+LanguageInfo wholeLanguage()
 {
     LanguageInfo language;
     language.setPath("path");
@@ -36,7 +36,7 @@ LanguageInfo everything()
     return language;
 }
 
-VXValue everythingEncoded()
+VXValue wholeLanguageEncoded()
 {
     return array({pair("path", "path"), pair("engineName", "engine"), pair("engineVersion", "1.0"),
                   pair("locale", "fr"), pair("names", array({pair("en", "French"), pair("fr", "français")}))});
@@ -52,7 +52,7 @@ VXValue encoded(const LanguageInfo& language)
 /// The encoding with another value in the pair at `index`.
 VXValue with(int index, VXValue value)
 {
-    VXValue encoding = everythingEncoded();
+    VXValue encoding = wholeLanguageEncoded();
     encoding[index][1] = std::move(value);
     return encoding;
 }
@@ -61,28 +61,30 @@ VXValue with(int index, VXValue value)
 
 TEST(LanguageEncoding, HasFivePairsInTheirFixedOrder)
 {
-    EXPECT_EQ(layout(encoded(everything())), layout(everythingEncoded()));
+    EXPECT_EQ(layout(encoded(wholeLanguage())), layout(wholeLanguageEncoded()));
 }
 
 TEST(LanguageEncoding, OfAnEmptyLanguageHasAllPairs)
 {
-    EXPECT_EQ(layout(encoded({})), layout(array({pair("path", ""), pair("engineName", ""), pair("engineVersion", ""),
-                                                 pair("locale", ""), pair("names", array({}))})));
+    EXPECT_EQ(layout(encoded(LanguageInfo())),
+              layout(array({pair("path", ""), pair("engineName", ""), pair("engineVersion", ""), pair("locale", ""),
+                            pair("names", array({}))})));
 }
 
 TEST(LanguageEncoding, ReplacesWhatAnArrayHolds)
 {
-    for (const VXValue& before : {array({}), array({1, "x"}), everythingEncoded(), array(std::vector<VXValue>(40))}) {
+    for (const VXValue& before :
+         {array({}), array({1, "x"}), wholeLanguageEncoded(), array(std::vector<VXValue>(40))}) {
         VXValue value = before;
-        everything().toVXValue(value);
-        EXPECT_EQ(layout(value), layout(everythingEncoded())) << layout(before);
+        wholeLanguage().toVXValue(value);
+        EXPECT_EQ(layout(value), layout(wholeLanguageEncoded())) << layout(before);
     }
 }
 
 TEST(LanguageEncoding, RefusesWhatIsNoArray)
 {
     VXValue value("text");
-    EXPECT_EQ(errorOf([&] { everything().toVXValue(value); }),
+    EXPECT_EQ(errorOf([&] { wholeLanguage().toVXValue(value); }),
               errorText("xAssertCompatibleType: type error",
                         "Expected a Array but received a String (vxvalue contents: \"text\" )"));
     EXPECT_EQ(layout(value), "String \"text\"\n");
@@ -90,22 +92,22 @@ TEST(LanguageEncoding, RefusesWhatIsNoArray)
 
 TEST(LanguageDecoding, GivesWhatWasEncoded)
 {
-    EXPECT_EQ(dumpOf(LanguageInfo(everythingEncoded())), dumpOf(everything()));
+    EXPECT_EQ(dumpOf(LanguageInfo(wholeLanguageEncoded())), dumpOf(wholeLanguage()));
 }
 
 TEST(LanguageDecoding, GoesByPositionAndIgnoresTheKeys)
 {
-    VXValue value = everythingEncoded();
+    VXValue value = wholeLanguageEncoded();
     value[0][0] = "names";
     value[4][0] = VXValue();
-    EXPECT_EQ(dumpOf(LanguageInfo(value)), dumpOf(everything()));
+    EXPECT_EQ(dumpOf(LanguageInfo(value)), dumpOf(wholeLanguage()));
 }
 
 TEST(LanguageDecoding, IgnoresWhatFollowsTheFifthPair)
 {
-    VXValue value = everythingEncoded();
+    VXValue value = wholeLanguageEncoded();
     value.resizeArray(7);
-    EXPECT_EQ(dumpOf(LanguageInfo(value)), dumpOf(everything()));
+    EXPECT_EQ(dumpOf(LanguageInfo(value)), dumpOf(wholeLanguage()));
 }
 
 TEST(LanguageDecoding, OfARepeatedLanguageTheLaterNameStays)
@@ -132,7 +134,7 @@ TEST(LanguageDecoding, RefusesAnyOtherOuterShape)
               errorText("xAssertArraySize", "try to use a Float like an array"));
     EXPECT_EQ(errorOf([] { LanguageInfo{array({})}; }),
               errorText("xAssertArraySize", "The array has a size of 0 and you want it to be of size 1"));
-    VXValue value = everythingEncoded();
+    VXValue value = wholeLanguageEncoded();
     value.resizeArray(4);
     EXPECT_EQ(errorOf([&] { LanguageInfo{value}; }),
               errorText("xAssertArraySize", "The array has a size of 4 and you want it to be of size 5"));
@@ -147,7 +149,7 @@ TEST(LanguageDecoding, RefusesWrongInnerShapes)
     }
     EXPECT_EQ(errorOf([] { LanguageInfo{with(4, {})}; }), typeError("Array", "Invalid", ""));
     EXPECT_EQ(errorOf([] { LanguageInfo{with(4, array({pair("en", 1)}))}; }), typeError("String", "Int", "1"));
-    VXValue value = everythingEncoded();
+    VXValue value = wholeLanguageEncoded();
     value[2].resizeArray(1);
     EXPECT_EQ(errorOf([&] { LanguageInfo{value}; }),
               errorText("xAssertArraySize", "The array has a size of 1 and you want it to be of size 2"));
