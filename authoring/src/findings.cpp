@@ -9,7 +9,12 @@ namespace zupackage::authoring {
 void Findings::add(zu::authoring::SyntaxErrorKind kind, std::string message, TextSpan where)
 {
     if (m_findings.size() < limits::k_errors)
-        m_findings.push_back({kind, std::move(message), where});
+        addLast(kind, std::move(message), where);
+}
+
+void Findings::addLast(zu::authoring::SyntaxErrorKind kind, std::string message, TextSpan where)
+{
+    m_findings.push_back({kind, std::move(message), where});
 }
 
 std::vector<zu::authoring::SyntaxError> Findings::errorsOf(const zu::authoring::SourceTree& tree)

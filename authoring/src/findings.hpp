@@ -13,6 +13,8 @@ class Findings
 public:
     /// Beyond as many as are told, none is kept.
     void add(zu::authoring::SyntaxErrorKind kind, std::string message, TextSpan where);
+    /// The one that ends the document is always kept.
+    void addLast(zu::authoring::SyntaxErrorKind kind, std::string message, TextSpan where);
 
     bool areEmpty() const { return m_findings.empty(); }
 

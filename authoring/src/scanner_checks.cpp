@@ -23,7 +23,7 @@ void Scanner::add(std::string message, TextSpan where, Kind kind) { m_findings.a
 
 bool Scanner::fail(std::string message, TextSpan where, Kind kind)
 {
-    add(std::move(message), where, kind);
+    m_findings.addLast(kind, std::move(message), where);
     return false;
 }
 

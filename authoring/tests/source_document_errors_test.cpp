@@ -162,6 +162,13 @@ TEST(SourceDocumentErrors, OnlyAHundredAreTold)
     EXPECT_TRUE(document.root().child("a"));
 }
 
+TEST(SourceDocumentErrors, TheOneThatEndsTheDocumentIsAlwaysTold)
+{
+    const SourceDocument document = parsed("<p>" + std::string(1000, '&') + "<a");
+    ASSERT_EQ(document.errors().size(), 101u);
+    EXPECT_EQ(document.errors().back().message, "a tag without an end");
+}
+
 TEST(SourceDocumentErrors, WhatComesBeforeAnErrorIsThere)
 {
     const SourceDocument document = parsed("<p><names><name lang='en'>a</name><name lang=fr>b</name></names></p>");

@@ -68,8 +68,8 @@ public:
 
     /// @name Strictness
     /// @{
-    /// What is wrong, in the order of places, at most 100 errors. Of those after which the parser cannot go on there is
-    /// at most one, the last.
+    /// What is wrong, in the order of places: the first 100 errors found after which the parser goes on, and the one
+    /// after which it cannot, if any.
     const std::vector<SyntaxError>& errors() const;
     bool isWellFormed() const { return errors().empty(); }
     /// Whether the tree covers the document to its end, so that no error hides what comes after it.
