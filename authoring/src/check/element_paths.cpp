@@ -6,7 +6,7 @@
 namespace zupackage::check {
 
 ElementPaths::ElementPaths(const SourceDocument& document)
-    : m_document(document), m_positions(document.nodeCount()), m_isAlone(document.nodeCount())
+    : m_positions(document.nodeCount()), m_isAlone(document.nodeCount())
 {
     for (std::size_t i = 0; i < m_positions.size(); ++i) {
         std::unordered_map<std::string_view, std::uint32_t> counts;

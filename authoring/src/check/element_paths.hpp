@@ -21,7 +21,6 @@ public:
     std::string path(SourceNode node, std::string_view attribute) const;
 
 private:
-    const SourceDocument& m_document;
     std::vector<std::uint32_t> m_positions; ///< among siblings of the same name, from 1, by the node's number
     std::vector<bool> m_isAlone;            ///< whether there are none
 };
