@@ -40,7 +40,7 @@ TEST(ReadManifest, SaysWhyADocumentIsRefusedAndLogsNothing)
     EXPECT_FALSE(readManifest("<package uuid='new'>\n <names></package>", package, &error));
     EXPECT_EQ(error.message, "tag mismatch");
     EXPECT_EQ(error.line, 2);
-    EXPECT_EQ(error.column, 19);
+    EXPECT_EQ(error.column, 18);
     EXPECT_EQ(package.uuid(), "kept");
     EXPECT_THAT(log.lines(), IsEmpty());
 }
