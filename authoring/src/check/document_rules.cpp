@@ -1,7 +1,7 @@
-#include "check/edits.hpp"
 #include "check/findings.hpp"
 #include "check/forbidden_characters.hpp"
 #include "check/wording.hpp"
+#include "edits.hpp"
 
 #include <zupackage/package_info.hpp>
 

@@ -1,6 +1,6 @@
 #include "check/repetition.hpp"
 
-#include "check/edits.hpp"
+#include "edits.hpp"
 
 namespace zupackage::check {
 
@@ -11,17 +11,17 @@ void reportPair(const Checked& checked, Findings& findings, SourceNode earlier, 
     case Fate::FirstCounts:
         findings.at(later, what + "; the first one counts")
             .see("the first one", earlier)
-            .safeFix("remove it", {removal(checked.document, later)});
+            .safeFix("remove it", {authoring::removal(checked.document, later)});
         break;
     case Fate::LastCounts:
         findings.at(earlier, what + "; the last one counts")
             .see("a later one", later)
-            .safeFix("remove it", {removal(checked.document, earlier)});
+            .safeFix("remove it", {authoring::removal(checked.document, earlier)});
         break;
     case Fate::BothCount:
         findings.at(later, what)
             .see("the first one", earlier)
-            .unsafeFix("remove it", {removal(checked.document, later)});
+            .unsafeFix("remove it", {authoring::removal(checked.document, later)});
         break;
     }
 }

@@ -1,7 +1,7 @@
-#include "check/edits.hpp"
 #include "check/findings.hpp"
 #include "check/repetition.hpp"
 #include "check/wording.hpp"
+#include "edits.hpp"
 
 #include <map>
 
@@ -56,7 +56,7 @@ void findRepeatedElements(const Checked& checked, Findings& findings)
         Finding& finding = isFlag ? findings.at(next, "a second " + inQuotes(entry.name) + ", which changes nothing")
                                   : findings.at(first, "a later " + inQuotes(entry.name) + " takes its place");
         finding.see(isFlag ? "the first one" : "the later one", isFlag ? first : next)
-            .safeFix("remove it", {removal(checked.document, isFlag ? next : first)});
+            .safeFix("remove it", {authoring::removal(checked.document, isFlag ? next : first)});
     });
 }
 

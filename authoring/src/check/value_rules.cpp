@@ -1,8 +1,8 @@
 #include "check/date.hpp"
-#include "check/edits.hpp"
 #include "check/findings.hpp"
 #include "check/version.hpp"
 #include "check/wording.hpp"
+#include "edits.hpp"
 
 #include <zupackage/behavior_info.hpp>
 
@@ -69,9 +69,9 @@ void findInvalidFlags(const Checked& checked, Findings& findings)
             const std::string_view flag = trimmed(attribute.value());
             const std::string_view meant = meantFlag(flag);
             if (std::find(k_flags.begin(), k_flags.end(), flag) != k_flags.end())
-                finding.safeFix("write " + inQuotes(flag), {replacement(attribute, flag)});
+                finding.safeFix("write " + inQuotes(flag), {authoring::replacement(attribute, flag)});
             else if (!meant.empty())
-                finding.unsafeFix("write " + inQuotes(meant), {replacement(attribute, meant)});
+                finding.unsafeFix("write " + inQuotes(meant), {authoring::replacement(attribute, meant)});
         }
     }
 }
@@ -146,7 +146,7 @@ void findUnknownPermissions(const Checked& checked, Findings& findings)
             Finding& finding = findings.at(permission, "no robot knows the permission " + inQuotes(permission.name()) +
                                                            ", which readers drop" + didYouMean(meant));
             if (!meant.empty())
-                finding.unsafeFix("call it " + inQuotes(meant), renaming(permission, meant));
+                finding.unsafeFix("call it " + inQuotes(meant), authoring::renaming(permission, meant));
         }
     }
 }
@@ -162,7 +162,7 @@ void findTextsInUserRequestable(const Checked& checked, Findings& findings)
             element, saysNo ? "the behavior is user-requestable all the same: it is not when the element is absent"
                             : "the text says nothing: the element alone makes the behavior user-requestable");
         if (saysNo)
-            finding.unsafeFix("remove the element", {removal(checked.document, element)});
+            finding.unsafeFix("remove the element", {authoring::removal(checked.document, element)});
         else
             finding.safeFix("remove the text", {{element.contentRange(), {}}});
     }
@@ -188,7 +188,7 @@ void findPaddedTexts(const Checked& checked, Findings& findings)
             // Spaces around a flag make it another flag, which has a rule of its own.
             if (attribute && known.kind != ValueKind::Flag && isPadded(attribute.value()))
                 findings.at(attribute, "white space around " + inQuotes(known.name) + " is part of it")
-                    .unsafeFix("remove it", {replacement(attribute, trimmed(attribute.value()))});
+                    .unsafeFix("remove it", {authoring::replacement(attribute, trimmed(attribute.value()))});
         }
         if (entry.text == ValueKind::None)
             continue;
@@ -198,7 +198,7 @@ void findPaddedTexts(const Checked& checked, Findings& findings)
         Finding& finding =
             findings.atContent(element, "white space around the text of " + inQuotes(entry.name) + " is part of it");
         if (!element.firstChild().nextSibling() && element.firstChild().kind() == zu::authoring::NodeKind::Text)
-            finding.unsafeFix("remove it", {{element.contentRange(), escapedText(trimmed(text))}});
+            finding.unsafeFix("remove it", {{element.contentRange(), authoring::escapedText(trimmed(text))}});
     }
 }
 

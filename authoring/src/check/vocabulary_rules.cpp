@@ -1,6 +1,6 @@
-#include "check/edits.hpp"
 #include "check/findings.hpp"
 #include "check/wording.hpp"
+#include "edits.hpp"
 
 #include <algorithm>
 
@@ -60,7 +60,8 @@ void findUnknownRoot(const Checked& checked, Findings& findings)
     const SourceNode root = checked.document.root();
     if (root && root.name() != Vocabulary::manifest().root().name && root.prefix().empty())
         findings.at(root.nameRange(), root, "the root element is " + inQuotes(root.name()) + ", not \"package\"")
-            .unsafeFix("call the root element \"package\"", renaming(root, Vocabulary::manifest().root().name));
+            .unsafeFix("call the root element \"package\"",
+                       authoring::renaming(root, Vocabulary::manifest().root().name));
 }
 
 /// What readers make of an unknown element there.
@@ -80,9 +81,9 @@ void findUnknownElements(const Checked& checked, Findings& findings)
         Finding& finding = findings.at(element, "unknown element " + inQuotes(element.name()) + " in " +
                                                     inQuotes(parent.name) + fate(parent) + didYouMean(meant));
         if (!meant.empty())
-            finding.unsafeFix("call it " + inQuotes(meant), renaming(element, meant));
+            finding.unsafeFix("call it " + inQuotes(meant), authoring::renaming(element, meant));
         else if (!parent.countsEveryChild && parent.text == ValueKind::None)
-            finding.unsafeFix("remove it", {removal(checked.document, element)});
+            finding.unsafeFix("remove it", {authoring::removal(checked.document, element)});
     });
 }
 
@@ -126,7 +127,7 @@ void findUnknownAttributes(const Checked& checked, Findings& findings)
             if (!meant.empty() && !plainAttribute(element, meant))
                 finding.unsafeFix("call it " + inQuotes(meant), {{attribute.nameRange(), std::string(meant)}});
             else
-                finding.unsafeFix("remove it", {removal(checked.document, attribute)});
+                finding.unsafeFix("remove it", {authoring::removal(checked.document, attribute)});
         }
     }
 }
@@ -166,7 +167,7 @@ void findCountedNodes(const Checked& checked, Findings& findings)
                 findings
                     .atWhole(node, std::string(what) + " in " + inQuotes(entry.name) + " is read as an empty " +
                                        inQuotes(entry.children.front()->name))
-                    .unsafeFix("remove it", {removal(checked.document, node)});
+                    .unsafeFix("remove it", {authoring::removal(checked.document, node)});
         }
     }
 }

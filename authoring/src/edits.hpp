@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace zupackage::check {
+namespace zupackage::authoring {
 
 /// Takes a node away, and the line with it when nothing else stands there.
 zu::authoring::TextEdit removal(const zu::authoring::SourceDocument& document, zu::authoring::SourceNode node);
@@ -26,4 +26,4 @@ std::vector<zu::authoring::TextEdit> renaming(zu::authoring::SourceNode element,
 std::string escapedText(std::string_view text);
 std::string escapedValue(std::string_view value, char quote);
 
-} // namespace zupackage::check
+} // namespace zupackage::authoring

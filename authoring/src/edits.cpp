@@ -1,11 +1,16 @@
-#include "check/edits.hpp"
+#include "edits.hpp"
 
-namespace zupackage::check {
+#include "characters.hpp"
+#include "source_tree.hpp"
+
+namespace zupackage::authoring {
 
 using zu::authoring::ByteRange;
 using zu::authoring::SourceAttribute;
 using zu::authoring::SourceDocument;
 using zu::authoring::SourceNode;
+using zu::authoring::SourceTree;
+using zu::authoring::SourceTreeAccess;
 using zu::authoring::TextEdit;
 
 namespace {
@@ -13,28 +18,22 @@ namespace {
 bool isBlank(char c) { return c == ' ' || c == '\t'; }
 bool isLineEnd(char c) { return c == '\n' || c == '\r'; }
 
-/// Whether white space is the same bytes in the document as in ASCII.
-bool hasPlainSpaces(const SourceDocument& document)
-{
-    const std::string& encoding = document.encoding();
-    return encoding.rfind("UTF-16", 0) != 0 && encoding.rfind("UTF-32", 0) != 0;
-}
-
 /// The range with the white space before it and the end of its line, when there is nothing else in its lines.
 ByteRange withLines(const SourceDocument& document, ByteRange range)
 {
-    const std::string& text = document.text();
-    std::size_t begin = range.begin;
+    const SourceTree& tree = SourceTreeAccess::tree(document);
+    const std::string_view text = tree.utf8();
+    std::size_t begin = tree.toText(range.begin);
     while (begin > 0 && isBlank(text[begin - 1]))
         --begin;
-    std::size_t end = range.end;
+    std::size_t end = tree.toText(range.end);
     while (end < text.size() && isBlank(text[end]))
         ++end;
     const bool isFirst = begin == 0 || isLineEnd(text[begin - 1]);
     if (!isFirst || end == text.size() || !isLineEnd(text[end]))
         return range;
     end += text.compare(end, 2, "\r\n") == 0 ? 2U : 1U;
-    return {begin, end};
+    return tree.range(span(begin, end));
 }
 
 std::string escaped(std::string_view text, char quote)
@@ -61,19 +60,16 @@ std::string escaped(std::string_view text, char quote)
 
 } // namespace
 
-TextEdit removal(const SourceDocument& document, SourceNode node)
-{
-    return {hasPlainSpaces(document) ? withLines(document, node.range()) : node.range(), {}};
-}
+TextEdit removal(const SourceDocument& document, SourceNode node) { return {withLines(document, node.range()), {}}; }
 
 TextEdit removal(const SourceDocument& document, SourceAttribute attribute)
 {
-    ByteRange range = attribute.range();
-    const std::string& text = document.text();
-    while (hasPlainSpaces(document) && range.begin > 0 &&
-           (isBlank(text[range.begin - 1]) || isLineEnd(text[range.begin - 1])))
-        --range.begin;
-    return {range, {}};
+    const SourceTree& tree = SourceTreeAccess::tree(document);
+    const std::string_view text = tree.utf8();
+    std::size_t begin = tree.toText(attribute.range().begin);
+    while (isOf(Blank, text[begin - 1]))
+        --begin;
+    return {{tree.toDocument(begin), attribute.range().end}, {}};
 }
 
 TextEdit replacement(SourceAttribute attribute, std::string_view value)
@@ -94,4 +90,4 @@ std::string escapedText(std::string_view text) { return escaped(text, '\0'); }
 
 std::string escapedValue(std::string_view value, char quote) { return escaped(value, quote); }
 
-} // namespace zupackage::check
+} // namespace zupackage::authoring
