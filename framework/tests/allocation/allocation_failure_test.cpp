@@ -56,11 +56,11 @@ using allocationtest::Account;
 using allocationtest::g_long;
 using allocationtest::Record;
 using allocationtest::Registered;
-using Named = std::map<std::string, AnyValue>;
+using MemberValues = std::map<std::string, AnyValue>;
 
 namespace {
 
-Named newValues()
+MemberValues newValues()
 {
     return {{"text", AnyValue::from(g_long + "new")},
             {"list", AnyValue::from(std::vector<AnyValue>{AnyValue::from(g_long), AnyValue::from("b")})}};
@@ -95,9 +95,9 @@ TEST(AllocationFailure, AConversionChangesItsTargetAsAWholeOrNotAtAll)
         [] {
             return std::map<std::string, std::string>{{g_long, g_long}};
         },
-        Named{{"a", AnyValue::from(g_long)}, {"b", AnyValue::from(g_long)}});
+        MemberValues{{"a", AnyValue::from(g_long)}, {"b", AnyValue::from(g_long)}});
     expectWholeOrNothing([] { return std::pair<std::string, Record>(); },
-                         std::tuple<std::string, Named>(g_long, newValues()));
+                         std::tuple<std::string, MemberValues>(g_long, newValues()));
 }
 
 TEST(AllocationFailure, WhatIsNoMemberOutlivesIt)
