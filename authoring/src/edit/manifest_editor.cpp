@@ -1,0 +1,74 @@
+#include "edit/package_edits.hpp"
+
+#include <zupackage/authoring/manifest_editor.hpp>
+#include <zupackage/authoring/text_edit.hpp>
+
+namespace zu::authoring {
+
+namespace {
+
+std::shared_ptr<const PackageInfo> readPackage(const SourceDocument& document)
+{
+    if (!document.isWellFormed()) {
+        const SyntaxError& error = document.errors().front();
+        throw ManifestEditError(error.message, error.place);
+    }
+    const auto package = std::make_shared<PackageInfo>();
+    ManifestSyntaxError error;
+    if (!readManifest(document.text(), *package, &error))
+        throw ManifestEditError(error.message,
+                                {static_cast<std::size_t>(error.line), static_cast<std::size_t>(error.column)});
+    return package;
+}
+
+std::string written(const PackageInfo& package)
+{
+    // Writing never changes the package: the member is not const for the sake of old callers.
+    return const_cast<PackageInfo&>(package).saveToManifestContent();
+}
+
+/// What the reader leaves of what was written.
+std::string rewritten(const std::string& manifest)
+{
+    PackageInfo package;
+    readManifest(manifest, package);
+    return package.saveToManifestContent();
+}
+
+/// The document with the edits that make it read as `target` does, which a writer has written.
+SourceDocument edited(const SourceDocument& document, const SourceDocument& target)
+{
+    std::optional<std::string> bytes = applyEdits(document, zupackage::edit::packageEdits(document, target));
+    return bytes ? SourceDocument::parse(std::move(*bytes)) : SourceDocument();
+}
+
+} // namespace
+
+ManifestEditError::ManifestEditError(const std::string& message, Place place)
+    : std::runtime_error(message), m_place(place)
+{
+}
+
+ManifestEditError::~ManifestEditError() = default;
+
+ManifestEditor::ManifestEditor(SourceDocument document)
+    : m_document(std::move(document)), m_package(readPackage(m_document))
+{
+}
+
+PackageInfo ManifestEditor::package() const { return *m_package; }
+
+void ManifestEditor::update(const PackageInfo& package)
+{
+    const std::string wanted = written(package);
+    if (wanted == written(*m_package))
+        return;
+    SourceDocument result = edited(m_document, SourceDocument::parse(wanted));
+    std::shared_ptr<const PackageInfo> reading = readPackage(result);
+    if (const std::string reached = written(*reading); reached != wanted && reached != rewritten(wanted))
+        throw ManifestEditError("the document cannot be edited to read as the package", {});
+    m_document = std::move(result);
+    m_package = std::move(reading);
+}
+
+} // namespace zu::authoring

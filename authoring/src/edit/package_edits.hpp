@@ -1,0 +1,15 @@
+#pragma once
+
+#include <zupackage/authoring/source_document.hpp>
+#include <zupackage/authoring/text_edit.hpp>
+
+#include <vector>
+
+namespace zupackage::edit {
+
+/// What to change in `document` so that it reads as `target` does, which must stand as the package writer writes it.
+/// Both must be well-formed.
+std::vector<zu::authoring::TextEdit> packageEdits(const zu::authoring::SourceDocument& document,
+                                                  const zu::authoring::SourceDocument& target);
+
+} // namespace zupackage::edit
