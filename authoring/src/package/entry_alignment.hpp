@@ -1,0 +1,28 @@
+#pragma once
+
+#include "package/package_element.hpp"
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+namespace zupackage::authoring {
+
+/// What stands for one entry in two lists.
+struct AlignedEntry
+{
+    std::optional<std::size_t> before; ///< its place in the list before; nothing for one that is new
+    std::optional<std::size_t> after;  ///< its place in the list after; nothing for one that is gone
+    bool isMoved = false;              ///< against the order of those that are not
+};
+
+/// Which of the children of two elements of one kind are the same: by what identifies them, then speech languages of
+/// one locale, then those that nothing identifies where they stand in the place of others. In the order of the second
+/// list, with what is gone before what came into its place; moved are as few as possible.
+std::vector<AlignedEntry> align(const std::vector<PackageElement>& before, const std::vector<PackageElement>& after);
+
+/// What tells each entry from the others of the list: its element and identity, or its text and attributes, and how
+/// many of the same come before it.
+std::vector<std::string> keysOf(const std::vector<PackageElement>& entries);
+
+} // namespace zupackage::authoring
