@@ -14,9 +14,11 @@ bool writeOutput(std::string_view text)
     return false;
 }
 
+void complain(const std::string& message) { std::fprintf(stderr, "zupackage: %s\n", message.c_str()); }
+
 ExitCode outputFailed()
 {
-    std::fprintf(stderr, "zupackage: cannot write to standard output: %s\n", std::strerror(errno));
+    complain(std::string("cannot write to standard output: ") + std::strerror(errno));
     return k_outputFailed;
 }
 

@@ -2,6 +2,7 @@
 
 #include "command.hpp"
 
+#include <string>
 #include <string_view>
 
 namespace zu::cli {
@@ -9,6 +10,9 @@ namespace zu::cli {
 /// Writes the whole text to standard output at once.
 /// @return false when it could not be written; standard error says why then.
 bool writeOutput(std::string_view text);
+
+/// Says something about a failure on standard error.
+void complain(const std::string& message);
 
 /// Says on standard error why standard output could not be written.
 ExitCode outputFailed();

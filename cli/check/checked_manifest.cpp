@@ -1,44 +1,14 @@
 #include "check/checked_manifest.hpp"
 
+#include "manifest_bytes.hpp"
+
 #include <zupackage/package_info.hpp>
 
-#include <QtCore/QFile>
-
-#include <cstdio>
 #include <filesystem>
 
 namespace zu::cli {
 
 namespace {
-
-/// Reads at most a byte more than the largest document that is checked, so that a device without an end has one.
-bool read(QFile& file, std::string& bytes, std::string& failure)
-{
-    constexpr std::size_t k_most = std::size_t{64} * 1024 * 1024 + 1;
-    constexpr std::size_t k_block = 64 * 1024;
-    while (bytes.size() < k_most) {
-        const std::size_t before = bytes.size();
-        bytes.resize(before + k_block);
-        const qint64 count = file.read(&bytes[before], k_block);
-        bytes.resize(before + static_cast<std::size_t>(std::max<qint64>(count, 0)));
-        if (count < 0)
-            failure = file.errorString().toStdString();
-        if (count <= 0)
-            break;
-    }
-    return failure.empty();
-}
-
-bool readSource(const std::string& path, std::string& bytes, std::string& failure)
-{
-    QFile file(QString::fromStdString(path));
-    const bool isOpen = path == "-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    if (!isOpen) {
-        failure = file.errorString().toStdString();
-        return false;
-    }
-    return read(file, bytes, failure);
-}
 
 std::string folderOf(const std::string& path)
 {
@@ -70,9 +40,9 @@ CheckedManifest checkManifest(const std::string& path, const CheckTask& task)
 {
     const bool isFile = path != "-";
     CheckedManifest checked;
-    checked.name = isFile ? path : "standard input";
+    checked.name = shownName(path);
     std::string bytes;
-    if (!readSource(path, bytes, checked.failure))
+    if (!readManifestBytes(path, bytes, checked.failure))
         return checked;
 
     RuleSettings settings = isFile ? settingsFor(folderOf(path)) : RuleSettings();

@@ -1,9 +1,9 @@
 #include "commands/check.hpp"
 
-#include "check/manifest_search.hpp"
 #include "check/report.hpp"
 #include "check/rule_help.hpp"
 #include "check/severity_names.hpp"
+#include "manifest_search.hpp"
 #include "ordered_parallel.hpp"
 #include "output.hpp"
 #include "terminal.hpp"
@@ -58,23 +58,6 @@ CheckTask taskFor(const CheckArguments& arguments)
     task.fixes = arguments.fixes || arguments.fixesUnsafe || arguments.showsFixes;
     task.writesFixes = task.fixes && !arguments.showsFixes;
     return task;
-}
-
-void complain(const std::string& message) { std::fprintf(stderr, "zupackage: %s\n", message.c_str()); }
-
-/// The manifests that the sources stand for; a folder without any is an error of input.
-std::vector<std::string> manifestsIn(const std::vector<std::string>& sources, ExitCode& result)
-{
-    std::vector<std::string> manifests;
-    for (const std::string& source : sources) {
-        const std::vector<std::string> found = findManifests(source);
-        if (found.empty()) {
-            complain("there is no manifest.xml in " + source);
-            result = worse(result, k_inputFailed);
-        }
-        manifests.insert(manifests.end(), found.begin(), found.end());
-    }
-    return manifests;
 }
 
 /// Adds up what becomes of the manifests, and what the program ends with.

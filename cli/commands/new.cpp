@@ -8,7 +8,6 @@
 #include <QtCore/QUuid>
 
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
@@ -30,8 +29,6 @@ struct NewArguments
     std::string name;
     std::vector<std::string> languages;
 };
-
-void complain(const std::string& message) { std::fprintf(stderr, "zupackage: %s\n", message.c_str()); }
 
 std::string lastNameOf(const std::string& folder)
 {

@@ -1,4 +1,6 @@
-#include "check/manifest_search.hpp"
+#include "manifest_search.hpp"
+
+#include "output.hpp"
 
 #include <algorithm>
 #include <filesystem>
@@ -24,6 +26,20 @@ std::vector<std::string> findManifests(const std::string& source)
             manifests.push_back(entry->path().lexically_normal().string());
     }
     std::sort(manifests.begin(), manifests.end());
+    return manifests;
+}
+
+std::vector<std::string> manifestsIn(const std::vector<std::string>& sources, ExitCode& result)
+{
+    std::vector<std::string> manifests;
+    for (const std::string& source : sources) {
+        const std::vector<std::string> found = findManifests(source);
+        if (found.empty()) {
+            complain("there is no manifest.xml in " + source);
+            result = worse(result, k_inputFailed);
+        }
+        manifests.insert(manifests.end(), found.begin(), found.end());
+    }
     return manifests;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "command.hpp"
+
 #include <string>
 #include <vector>
 
@@ -9,5 +11,10 @@ namespace zu::cli {
 /// depth, sorted by path. Hidden folders are left out, links to folders are not followed.
 /// @return an empty list for a folder without any.
 std::vector<std::string> findManifests(const std::string& source);
+
+/// The manifests that all of the sources stand for. A folder without any is an error of input, which standard error
+/// tells.
+/// @param result becomes worse then.
+std::vector<std::string> manifestsIn(const std::vector<std::string>& sources, ExitCode& result);
 
 } // namespace zu::cli

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+namespace zu::cli {
+
+/// Reads what a manifest file holds, or standard input for "-". Of what is larger than any document that is read, a
+/// byte more than that.
+/// @param failure receives why it could not be read.
+/// @return whether it could.
+bool readManifestBytes(const std::string& path, std::string& bytes, std::string& failure);
+
+/// The manifest that a user names: a folder stands for the manifest.xml in it.
+std::string manifestPath(const std::string& source);
+
+/// As messages show it.
+std::string shownName(const std::string& path);
+
+} // namespace zu::cli
