@@ -1,4 +1,5 @@
 #include "support/files.hpp"
+#include "support/json_schema.hpp"
 #include "support/program.hpp"
 
 #include <QtCore/QXmlStreamReader>
@@ -51,15 +52,6 @@ protected:
 
     test::TemporaryFolder folder;
 };
-
-/// What a validator of JSON documents says about the output; empty when it is valid.
-std::string invalidity(const std::string& document, const std::string& schema)
-{
-    const ProgramResult result = test::runProgram(
-        "/usr/bin/python3", {test::sourcePath("tests/schemas/validate.py").string(), test::sourcePath(schema).string()},
-        {document, {}, {}});
-    return result.exitCode == 0 ? "" : "invalid: " + result.errors;
-}
 
 } // namespace
 
@@ -238,7 +230,7 @@ TEST_F(CheckCommand, JsonIsOneDocumentOfItsSchemaWhateverHappens)
         std::vector<std::string> arguments = {"--format", "json"};
         arguments.insert(arguments.end(), sources.begin(), sources.end());
         const ProgramResult result = check(arguments, {k_good, {}, {}});
-        EXPECT_EQ(invalidity(result.output, "docs/schemas/check-report.schema.json"), "");
+        EXPECT_EQ(test::invalidityOfJson(result.output, "docs/schemas/check-report.schema.json"), "");
         EXPECT_THAT(result.output, HasSubstr("\"format_version\": 1"));
     }
 }
@@ -252,7 +244,7 @@ TEST_F(CheckCommand, SarifIsOneDocumentOfItsSchemaWhateverHappens)
         std::vector<std::string> arguments = {"--format", "sarif"};
         arguments.insert(arguments.end(), sources.begin(), sources.end());
         const ProgramResult result = check(arguments, {k_good, {}, {}});
-        EXPECT_EQ(invalidity(result.output, "tests/schemas/sarif-2.1.0.json"), "");
+        EXPECT_EQ(test::invalidityOfJson(result.output, "tests/schemas/sarif-2.1.0.json"), "");
     }
 }
 
