@@ -16,7 +16,8 @@ constexpr char k_tooMany[] = "the value refers to parts of itself in more than 1
 
 bool refersToContent(const TypeInterface& type)
 {
-    return type.kind() == TypeKind::Dynamic && !static_cast<const DynamicTypeInterface&>(type).ownsContent();
+    return type.kind() == TypeKind::Pointer ||
+           (type.kind() == TypeKind::Dynamic && !static_cast<const DynamicTypeInterface&>(type).ownsContent());
 }
 
 } // namespace

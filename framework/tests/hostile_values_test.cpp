@@ -1,6 +1,7 @@
 #include "support/samples.hpp"
 
 #include <zu/conversion.hpp>
+#include <zu/json.hpp>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -137,9 +138,11 @@ TEST(HostileValues, ASmallStackSufficesForWhatIsNotRefused)
             EXPECT_EQ(value, other);
             EXPECT_EQ(value.hash(), other.hash());
             EXPECT_EQ(testing::PrintToString(value).find("..."), std::string::npos);
+            EXPECT_GT(toJson(value).size(), std::size_t(2 * k_maxNesting));
         }
         const AnyValue deep = nestedInMaps(k_deep);
         EXPECT_THROW(deep.hash(), std::length_error);
+        EXPECT_THROW(toJson(deep), ConversionError);
     });
 }
 

@@ -29,6 +29,7 @@ constexpr char k_authoring[] = "authoring/include/zupackage/authoring/";
 
 const std::vector<Rule> k_rules = {
     {"framework/include/", {k_framework, "boost/", "std/"}},
+    {"framework/src/json.cpp", {"framework/src/", k_framework, "nlohmann/", "std/"}},
     {"framework/src/", {"framework/src/", k_framework, "boost/", "spdlog/", "std/"}},
     {"framework/examples/", {k_framework, "std/"}},
     {"framework/tests/", {"framework/tests/", k_framework, "boost/", "gmock/", "gtest/", "std/"}},
@@ -101,6 +102,7 @@ TEST(Structure, EachForbiddenDirectionIsFound)
     const std::pair<const char*, const char*> forbidden[] = {
         {"framework/src/x.cpp", "#include <zupackage/package_info.hpp>"},
         {"framework/src/x.cpp", "#include <QtCore/QString>"},
+        {"framework/src/x.cpp", "#include <nlohmann/json.hpp>"},
         {"framework/include/zu/x.hpp", "#include <spdlog/spdlog.h>"},
         {"framework/tests/x.cpp", "#include \"log_handlers.hpp\""},
         {"include/zupackage/x.hpp", "#include <zu/log.hpp>"},

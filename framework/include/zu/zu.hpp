@@ -10,6 +10,7 @@
 #include <zu/any_value.hpp>
 #include <zu/conversion.hpp>
 #include <zu/dispatch.hpp>
+#include <zu/json.hpp>
 #include <zu/log.hpp>
 #include <zu/registry.hpp>
 #include <zu/struct_bouncer.hpp>
