@@ -24,6 +24,13 @@ struct ZUPACKAGE_EXPORT NativeType<WebInfo>
     static const TypeInterface* make();
 };
 
+template <>
+struct ZUPACKAGE_EXPORT NativeType<PackageInfo2>
+{
+    /// The one interface of the class, "::zu::PackageInfo2", for every library.
+    static const TypeInterface* make();
+};
+
 /// The description of one application package as a plain value with open contents: what has no field of its own stands
 /// in maps of dynamic values, so that new kinds of content can be carried without a change of this class.
 /// loadManifest() makes one; PackageInfo has a constructor that turns it into the list-based model.

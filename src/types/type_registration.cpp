@@ -23,6 +23,15 @@ namespace zupackage {
 template <>
 inline constexpr auto k_fields<zu::WebInfo> = std::tuple(field("path", &zu::WebInfo::path));
 
+template <>
+inline constexpr auto k_fields<zu::PackageInfo2> =
+    std::tuple(field("uuid", &zu::PackageInfo2::uuid), field("version", &zu::PackageInfo2::version),
+               field("author", &zu::PackageInfo2::author), field("channel", &zu::PackageInfo2::channel),
+               field("organization", &zu::PackageInfo2::organization), field("date", &zu::PackageInfo2::date),
+               field("typeVersion", &zu::PackageInfo2::typeVersion), field("installer", &zu::PackageInfo2::installer),
+               field("installOnlyAtStartup", &zu::PackageInfo2::installOnlyAtStartup),
+               field("path", &zu::PackageInfo2::path), field("elements", &zu::PackageInfo2::elements));
+
 namespace {
 
 template <class Record>
@@ -100,6 +109,12 @@ const TypeInterface* NativeType<PackageService>::make()
 const TypeInterface* NativeType<WebInfo>::make()
 {
     static const TypeInterface* type = zupackage::known<WebInfo>("::zu::WebInfo");
+    return type;
+}
+
+const TypeInterface* NativeType<PackageInfo2>::make()
+{
+    static const TypeInterface* type = zupackage::known<PackageInfo2>("::zu::PackageInfo2");
     return type;
 }
 

@@ -144,6 +144,12 @@ TEST(RegisteredTypes, TheSmallRecordsAreDescribedOnFirstUse)
                  {member<std::string>("execStart"), member<std::string>("name"), member<bool>("autoRun"),
                   member<TextByKey>("envVars")});
     expectStruct(typeOf<WebInfo>(), "::zu::WebInfo", {member<std::string>("path")});
+    expectStruct(typeOf<PackageInfo2>(), "::zu::PackageInfo2",
+                 {member<std::string>("uuid"), member<std::string>("version"), member<std::string>("author"),
+                  member<std::string>("channel"), member<std::string>("organization"), member<std::string>("date"),
+                  member<std::string>("typeVersion"), member<std::string>("installer"),
+                  member<bool>("installOnlyAtStartup"), member<std::string>("path"),
+                  member<std::map<std::string, AnyValue>>("elements")});
 }
 
 TEST(RegisteredTypes, WrappingASmallRecordMakesItsNameKnown)
@@ -151,7 +157,8 @@ TEST(RegisteredTypes, WrappingASmallRecordMakesItsNameKnown)
     const std::pair<const char*, AnyValue> values[] = {{"::zu::RobotRequirement", AnyValue::from(RobotRequirement())},
                                                        {"::zu::MorvoRequirement", AnyValue::from(MorvoRequirement())},
                                                        {"::zu::PackageService", AnyValue::from(PackageService())},
-                                                       {"::zu::WebInfo", AnyValue::from(WebInfo())}};
+                                                       {"::zu::WebInfo", AnyValue::from(WebInfo())},
+                                                       {"::zu::PackageInfo2", AnyValue::from(PackageInfo2())}};
     for (const auto& [name, value] : values)
         EXPECT_EQ(findType(name), value.type()) << name;
 }

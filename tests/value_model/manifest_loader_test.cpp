@@ -4,6 +4,8 @@
 
 #include <zupackage/package_info2.hpp>
 
+#include <zu/json.hpp>
+
 #include <gmock/gmock.h>
 
 namespace zu {
@@ -246,6 +248,18 @@ TEST(LoadManifestFailure, ASilencedCategoryThrowsAllTheSame)
     EXPECT_THROW(loadManifest("absent"), std::runtime_error);
     category.setThreshold(threshold);
     EXPECT_THAT(log.lines(), IsEmpty());
+}
+
+TEST(LoadManifest, WhatWasReadBecomesJsonByItsTypesAlone)
+{
+    const PackageInfo2 package =
+        loaded("<package uuid='u'><names><name lang='en'>N</name></names><contents>"
+               "<behaviorContent path='b'><tags><tag lang='en'>t</tag></tags></behaviorContent></contents></package>");
+    const std::string json = toJson(AnyReference::from(package));
+    EXPECT_THAT(json, testing::HasSubstr(R"("uuid":"u")"));
+    EXPECT_THAT(json, testing::HasSubstr(R"({"en":"N"})"));
+    EXPECT_THAT(json, testing::HasSubstr(R"({"path":"b","nature":"","langToName":{},"langToDesc":{})"));
+    EXPECT_THAT(json, testing::HasSubstr(R"("langToTags":{"en":["t"]})"));
 }
 
 } // namespace zu
