@@ -3,6 +3,7 @@
 
 include(GNUInstallDirs)
 include(GenerateExportHeader)
+set(ZU_CMAKE_FOLDER ${CMAKE_CURRENT_LIST_DIR})
 
 # A library that is found outside the prefix, the host framework among them, is found there at run time, too.
 set(CMAKE_INSTALL_RPATH_USE_LINK_PATH ON)
@@ -11,6 +12,13 @@ set(CMAKE_INSTALL_RPATH_USE_LINK_PATH ON)
 find_program(ZU_CCACHE ccache)
 if(ZU_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER env CCACHE_SLOPPINESS=pch_defines,time_macros ${ZU_CCACHE})
+endif()
+
+# Within another project, that one's libraries, programs and tests matter: of ours, the libraries are built.
+option(ZU_INSTALL "Install what is built" ${PROJECT_IS_TOP_LEVEL})
+if(PROJECT_IS_TOP_LEVEL)
+    include(CTest)
+    set(ZU_TESTS ${BUILD_TESTING})
 endif()
 
 option(ZU_WERROR "Treat compiler warnings as errors" OFF)
@@ -39,11 +47,13 @@ function(zu_compile_together target is_unity)
     endif()
 endfunction()
 
-# A shared library ${target} with an export header <${folder}/export.hpp> that defines ${macro}, and the object library
-# ${target}_objects behind it: its sources are compiled once, and tests of private operations link the objects.
+# A shared library ${target} with an export header <${folder}/export.hpp> that defines ${macro}, a header of its
+# version, and the object library ${target}_objects behind it: its sources are compiled once, and tests of private
+# operations link the objects. It is known as zu::${EXPORT_NAME}, to pkg-config as ${NAME}, with what its headers need
+# there in REQUIRES and CFLAGS.
 # UNITY: no two sources have the same name for different things, so that they can be compiled together.
 function(zu_add_library target)
-    cmake_parse_arguments(arg "UNITY" "EXPORT_NAME;FOLDER;MACRO" "SOURCES" ${ARGN})
+    cmake_parse_arguments(arg "UNITY" "NAME;DESCRIPTION;EXPORT_NAME;FOLDER;MACRO" "SOURCES;REQUIRES;CFLAGS" ${ARGN})
 
     add_library(${target}_objects OBJECT ${arg_SOURCES})
     zu_compile_options(${target}_objects)
@@ -53,13 +63,16 @@ function(zu_add_library target)
         EXPORT_MACRO_NAME ${arg_MACRO}
         EXPORT_FILE_NAME ${generated}/${arg_FOLDER}/export.hpp)
     target_compile_definitions(${target}_objects PRIVATE ${target}_EXPORTS)
+    string(REPLACE _EXPORT "" prefix ${arg_MACRO})
+    configure_file(${ZU_CMAKE_FOLDER}/version.hpp.in ${generated}/${arg_FOLDER}/version.hpp @ONLY)
 
     add_library(${target} SHARED)
     add_library(zu::${arg_EXPORT_NAME} ALIAS ${target})
     set_target_properties(${target} PROPERTIES
+        OUTPUT_NAME ${arg_NAME}
         EXPORT_NAME ${arg_EXPORT_NAME}
         VERSION ${PROJECT_VERSION}
-        SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}
+        SOVERSION ${ZU_SOVERSION}
         INSTALL_RPATH "$ORIGIN")
     target_compile_features(${target} PUBLIC cxx_std_17)
     target_link_libraries(${target} PRIVATE ${target}_objects)
@@ -73,27 +86,45 @@ function(zu_add_library target)
             $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
     endforeach()
 
+    if(ZU_INSTALL)
+        zu_install_library(${target})
+    endif()
+endfunction()
+
+# To be called by zu_add_library, whose variables it reads.
+macro(zu_install_library target)
     install(TARGETS ${target} EXPORT ${PROJECT_NAME}Targets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+            COMPONENT ${PROJECT_NAME}_runtime NAMELINK_COMPONENT ${PROJECT_NAME}_development
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-    install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.hpp")
-    install(FILES ${generated}/${arg_FOLDER}/export.hpp
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${arg_FOLDER})
-endfunction()
+    install(DIRECTORY include/ ${generated}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+        COMPONENT ${PROJECT_NAME}_development FILES_MATCHING PATTERN "*.hpp")
+    set(pkgconfig_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+    file(RELATIVE_PATH up_to_prefix /${pkgconfig_folder} /)
+    list(JOIN arg_REQUIRES ", " requires)
+    list(JOIN arg_CFLAGS " " cflags)
+    configure_file(${ZU_CMAKE_FOLDER}/library.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${arg_NAME}.pc @ONLY)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${arg_NAME}.pc DESTINATION ${pkgconfig_folder}
+        COMPONENT ${PROJECT_NAME}_development)
+endmacro()
 
 # What find_package(${PROJECT_NAME}) finds: the exported targets, behind a config file that first finds what they need.
 function(zu_install_package config_template)
+    if(NOT ZU_INSTALL)
+        return()
+    endif()
     include(CMakePackageConfigHelpers)
     set(destination ${CMAKE_INSTALL_LIBDIR}/cmake/${PROJECT_NAME})
     configure_package_config_file(${config_template}
         ${CMAKE_CURRENT_BINARY_DIR}/${PROJECT_NAME}Config.cmake INSTALL_DESTINATION ${destination})
     write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/${PROJECT_NAME}ConfigVersion.cmake
         COMPATIBILITY SameMinorVersion)
-    install(EXPORT ${PROJECT_NAME}Targets NAMESPACE zu:: DESTINATION ${destination})
+    install(EXPORT ${PROJECT_NAME}Targets NAMESPACE zu:: DESTINATION ${destination}
+        COMPONENT ${PROJECT_NAME}_development)
     install(FILES
         ${CMAKE_CURRENT_BINARY_DIR}/${PROJECT_NAME}Config.cmake
         ${CMAKE_CURRENT_BINARY_DIR}/${PROJECT_NAME}ConfigVersion.cmake
-        DESTINATION ${destination})
+        DESTINATION ${destination} COMPONENT ${PROJECT_NAME}_development)
 endfunction()
 
 # Every public header under include/${folder} of the project, or of the folder ROOT, is the only one, twice, of a source
