@@ -73,11 +73,13 @@ function(zu_add_library target)
         EXPORT_NAME ${arg_EXPORT_NAME}
         VERSION ${PROJECT_VERSION}
         SOVERSION ${ZU_SOVERSION}
-        INSTALL_RPATH "$ORIGIN")
+        INSTALL_RPATH "$ORIGIN"
+        LINK_DEPENDS ${ZU_CMAKE_FOLDER}/exports.map)
     target_compile_features(${target} PUBLIC cxx_std_17)
     target_link_libraries(${target} PRIVATE ${target}_objects)
     # Fewer symbols to look up, and sooner found, when a program starts.
-    target_link_options(${target} PRIVATE LINKER:-O1,-Bsymbolic-functions)
+    target_link_options(${target} PRIVATE
+        LINKER:-O1,-Bsymbolic-functions LINKER:--version-script=${ZU_CMAKE_FOLDER}/exports.map)
 
     foreach(side IN ITEMS ${target} ${target}_objects)
         target_include_directories(${side} PUBLIC
