@@ -2,6 +2,7 @@
 #include "command_line.hpp"
 
 #include "commands/check.hpp"
+#include "commands/diff.hpp"
 #include "commands/languages.hpp"
 #include "commands/new.hpp"
 #include "commands/show.hpp"
@@ -65,7 +66,7 @@ ExitCode runCommandLine(int argc, char** argv)
     app.set_version_flag("--version", "zupackage " ZUPACKAGE_VERSION);
     app.require_subcommand(1);
     ExitCode result = k_success;
-    for (const Command& command : {k_check, k_languages, k_new, k_show}) {
+    for (const Command& command : {k_check, k_diff, k_languages, k_new, k_show}) {
         CLI::App* subcommand = app.add_subcommand(command.name, command.summary);
         subcommand->footer(k_exitCodes);
         Arguments arguments(*subcommand);

@@ -15,6 +15,12 @@ bool isColourWanted(const std::string& choice)
     return isTerminal(stdout) && (!noColour || *noColour == '\0');
 }
 
+std::string painted(std::string_view text, const char* colour, bool isColoured)
+{
+    const std::string plain(text);
+    return isColoured ? "\x1B[" + std::string(colour) + "m" + plain + "\x1B[0m" : plain;
+}
+
 Progress::Progress(std::size_t count, const char* verb) : m_count(count), m_verb(verb)
 {
     constexpr std::size_t k_short = 50;

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdio>
 #include <string>
+#include <string_view>
 
 namespace zu::cli {
 
@@ -11,6 +12,9 @@ bool isTerminal(std::FILE* stream);
 /// Whether standard output is to be coloured: as the user says, "always" or "never", or on "auto" when it is a terminal
 /// and NO_COLOR is not set.
 bool isColourWanted(const std::string& choice);
+
+/// The text in a colour of the terminal, as "1;31", if it is to have one.
+std::string painted(std::string_view text, const char* colour, bool isColoured);
 
 /// A line on standard error that says how far a long piece of work has come; silent for short ones, and where nobody
 /// watches a terminal.

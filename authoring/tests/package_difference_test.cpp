@@ -102,6 +102,16 @@ TEST(PackageDifference, AnEntryThatIsNewOrGoneIsOneChangeWithAllThatItHolds)
                             "removed contents/dialogContent[@topicName='t']:  | "));
 }
 
+TEST(PackageDifference, AMovedEntryHasItsMarkupInBothPackages)
+{
+    const std::string a = "<dialogContent topicName='a' typeVersion='1'/>";
+    const std::vector<PackageChange> moved = differences(packageWithContent("<dialogContent topicName='b'/>" + a),
+                                                         packageWithContent(a + "<dialogContent topicName='b'/>"));
+    EXPECT_THAT(moved, ElementsAre(PackageChange{"contents/dialogContent[@topicName='a']", ChangeKind::Moved,
+                                                 "<dialogContent topicName=\"a\" typeVersion=\"1\"/>",
+                                                 "<dialogContent topicName=\"a\" typeVersion=\"1\"/>", true}));
+}
+
 TEST(PackageDifference, EntriesAreKnownByWhatIdentifiesThem)
 {
     EXPECT_THAT(changesOfContent("<dialogContent topicName='t'><topic language='en' path='x'/></dialogContent>",

@@ -1,6 +1,7 @@
 #include "check/report.hpp"
 #include "check/severity_names.hpp"
 #include "check/source_excerpt.hpp"
+#include "terminal.hpp"
 
 namespace zu::cli {
 
@@ -57,8 +58,7 @@ public:
 private:
     std::string painted(std::string_view text, const char* colour) const
     {
-        const std::string plain(text);
-        return m_style.isColoured ? "\x1B[" + std::string(colour) + "m" + plain + "\x1B[0m" : plain;
+        return zu::cli::painted(text, colour, m_style.isColoured);
     }
 
     std::string placed(const CheckedManifest& manifest, Place place) const

@@ -35,7 +35,7 @@ private:
         const ChangeKind kind = before.empty()  ? ChangeKind::Added
                                 : after.empty() ? ChangeKind::Removed
                                                 : ChangeKind::Changed;
-        m_changes.push_back({path, kind, before, after});
+        m_changes.push_back({path, kind, before, after, false});
     }
 
     void compareChildren(const PackageElement& before, const PackageElement& after, const std::string& path)
@@ -48,15 +48,15 @@ private:
             const std::string place =
                 pathTo(path, aligned.after ? stepsAfter[*aligned.after] : stepsBefore[*aligned.before]);
             if (aligned.isMoved)
-                m_changes.push_back({place, ChangeKind::Moved, describe(*old), describe(*now)});
+                m_changes.push_back({place, ChangeKind::Moved, describe(*old), describe(*now), isComposite(*now)});
             const ElementEntry& entry = now ? *now->entry : *old->entry;
             if ((old && now) || isPart(entry)) {
                 const PackageElement nothing(entry);
                 compare(old ? *old : nothing, now ? *now : nothing, place);
             } else if (now) {
-                m_changes.push_back({place, ChangeKind::Added, {}, describe(*now)});
+                m_changes.push_back({place, ChangeKind::Added, {}, describe(*now), isComposite(*now)});
             } else {
-                m_changes.push_back({place, ChangeKind::Removed, describe(*old), {}});
+                m_changes.push_back({place, ChangeKind::Removed, describe(*old), {}, isComposite(*old)});
             }
         }
     }

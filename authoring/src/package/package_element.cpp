@@ -133,14 +133,15 @@ std::string markupOf(const PackageElement& element)
     return markup;
 }
 
-std::string describe(const PackageElement& element)
+bool isComposite(const PackageElement& element)
 {
     if (element.entry->text != ValueKind::None)
-        return element.text;
+        return false;
     const auto values = std::count_if(element.attributes.begin(), element.attributes.end(),
                                       [](const std::string& value) { return !value.empty(); });
-    const bool isIdentityAlone = element.children.empty() && values == (identityOf(element).empty() ? 0 : 1);
-    return isIdentityAlone ? std::string() : markupOf(element);
+    return !element.children.empty() || values > (identityOf(element).empty() ? 0 : 1);
 }
+
+std::string describe(const PackageElement& element) { return isComposite(element) ? markupOf(element) : element.text; }
 
 } // namespace zupackage::authoring

@@ -48,6 +48,9 @@ const std::string& identityOf(const PackageElement& element);
 /// The element in XML, children in lines of their own, without a line end after the last.
 std::string markupOf(const PackageElement& element);
 
+/// Whether the element says more beyond its path than a text.
+bool isComposite(const PackageElement& element);
+
 /// What the element says beyond its path: its text, or its markup when that is not all.
 std::string describe(const PackageElement& element);
 

@@ -26,17 +26,18 @@ struct PackageChange
     /// kinds or with control characters) is told by its number.
     std::string path;
     ChangeKind kind;
-    /// The text of the field or entry in the package before; empty for what was added. An entry of more than a text is
-    /// the element as the manifest's writer writes it, in lines without an end after the last; one of no text at all (a
-    /// permission, an executable file) is empty.
+    /// The text of the field or entry in the package before; empty for what was added, and for an entry that says
+    /// nothing beyond its path (a permission, an executable file).
     std::string before;
     std::string after; ///< the same in the package after; empty for what was removed
+    /// The texts are XML, for an entry of more than a text: the element, in lines without an end after the last.
+    bool isMarkup = false;
 };
 
 inline bool operator==(const PackageChange& left, const PackageChange& right)
 {
     return left.path == right.path && left.kind == right.kind && left.before == right.before &&
-           left.after == right.after;
+           left.after == right.after && left.isMarkup == right.isMarkup;
 }
 inline bool operator!=(const PackageChange& left, const PackageChange& right) { return !(left == right); }
 

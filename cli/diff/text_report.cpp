@@ -1,0 +1,114 @@
+#include "diff/difference_report.hpp"
+#include "display_width.hpp"
+#include "terminal.hpp"
+
+#include <string_view>
+
+namespace zu::cli {
+
+namespace {
+
+using authoring::ChangeKind;
+using authoring::PackageChange;
+
+constexpr const char* k_red = "31";
+constexpr const char* k_green = "32";
+
+/// A kind of change, in as many columns as the others.
+struct Label
+{
+    std::string_view text;
+    const char* colour;
+};
+
+Label labelOf(ChangeKind kind)
+{
+    switch (kind) {
+    case ChangeKind::Added:
+        return {"added   ", k_green};
+    case ChangeKind::Removed:
+        return {"removed ", k_red};
+    case ChangeKind::Changed:
+        return {"changed ", "33"};
+    case ChangeKind::Moved:
+        return {"moved   ", "36"};
+    }
+    return {};
+}
+
+/// The text in double quotes, with escapes for these and for what does not stand in a line.
+std::string inQuotes(std::string_view text)
+{
+    std::string escaped;
+    for (const char c : text) {
+        if (c == '"' || c == '\\')
+            (escaped += '\\') += c;
+        else if (c == '\n')
+            escaped += "\\n";
+        else if (c == '\r')
+            escaped += "\\r";
+        else if (c == '\t')
+            escaped += "\\t";
+        else
+            escaped += c;
+    }
+    return '"' + displayed(escaped) + '"';
+}
+
+/// The lines of a text, each behind a mark.
+std::string marked(std::string_view lines, std::string_view mark, const char* colour, bool isColoured)
+{
+    std::string result;
+    for (;;) {
+        const std::size_t end = lines.find('\n');
+        const std::string line = std::string(mark) + " " + displayed(lines.substr(0, end));
+        result += "\n         " + painted(line, colour, isColoured);
+        if (end == std::string_view::npos)
+            return result;
+        lines.remove_prefix(end + 1);
+    }
+}
+
+/// What stands behind the path.
+std::string textsOf(const PackageChange& change, bool isColoured)
+{
+    constexpr std::size_t k_short = 80;
+    if (change.kind == ChangeKind::Changed) {
+        if (change.path.size() + change.before.size() + change.after.size() <= k_short)
+            return ": " + inQuotes(change.before) + " -> " + inQuotes(change.after);
+        return marked(inQuotes(change.before), "-", k_red, isColoured) +
+               marked(inQuotes(change.after), "+", k_green, isColoured);
+    }
+    const std::string& text = change.kind == ChangeKind::Removed ? change.before : change.after;
+    if (!change.isMarkup)
+        return text.empty() ? std::string() : ": " + inQuotes(text);
+    switch (change.kind) {
+    case ChangeKind::Added:
+        return marked(text, "+", k_green, isColoured);
+    case ChangeKind::Removed:
+        return marked(text, "-", k_red, isColoured);
+    case ChangeKind::Changed:
+    case ChangeKind::Moved:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+std::string textReport(const ManifestDifference& difference, bool isColoured)
+{
+    if (!difference.unreadable.empty() || difference.isIdentical)
+        return {};
+    if (difference.changes.empty())
+        return "nothing of the package differs, only the text of the manifest\n";
+    std::string report;
+    for (const PackageChange& change : difference.changes) {
+        const Label label = labelOf(change.kind);
+        report += painted(label.text, label.colour, isColoured) + " " + displayed(change.path) +
+                  textsOf(change, isColoured) + "\n";
+    }
+    return report;
+}
+
+} // namespace zu::cli
