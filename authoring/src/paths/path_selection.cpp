@@ -1,0 +1,100 @@
+#include "paths/path_selection.hpp"
+
+#include <algorithm>
+
+namespace zupackage::authoring {
+
+using zu::authoring::ManifestPath;
+using zu::authoring::PathPredicate;
+using zu::authoring::PathStep;
+using zu::authoring::SourceAttribute;
+using zu::authoring::SourceDocument;
+using zu::authoring::SourceNode;
+
+namespace {
+
+bool hasChild(SourceNode element, const PathPredicate& predicate)
+{
+    for (const SourceNode child : element.children()) {
+        if (child.isElement() && child.name() == predicate.name && child.textContent() == predicate.value)
+            return true;
+    }
+    return false;
+}
+
+/// Those of the elements, all of one parent, that meet a condition.
+void filter(std::vector<SourceNode>& elements, const PathPredicate& predicate)
+{
+    if (predicate.kind == PathPredicate::Kind::Position) {
+        if (predicate.position > elements.size())
+            elements.clear();
+        else
+            elements = {elements[predicate.position - 1]};
+        return;
+    }
+    const auto fails = [&predicate](SourceNode element) {
+        if (predicate.kind == PathPredicate::Kind::OwnText)
+            return element.textContent() != predicate.value;
+        if (predicate.kind == PathPredicate::Kind::Child)
+            return !hasChild(element, predicate);
+        const SourceAttribute attribute = attributeNamed(element, predicate.name);
+        return !attribute || attribute.value() != predicate.value;
+    };
+    elements.erase(std::remove_if(elements.begin(), elements.end(), fails), elements.end());
+}
+
+} // namespace
+
+std::vector<SourceNode> stepFrom(const std::vector<SourceNode>& parents, const PathStep& step)
+{
+    std::vector<SourceNode> result;
+    for (const SourceNode parent : parents) {
+        std::vector<SourceNode> elements;
+        for (const SourceNode child : parent.children()) {
+            if (child.isElement() && (step.name == "*" || child.name() == step.name))
+                elements.push_back(child);
+        }
+        for (const PathPredicate& predicate : step.predicates)
+            filter(elements, predicate);
+        result.insert(result.end(), elements.begin(), elements.end());
+    }
+    return result;
+}
+
+std::vector<SourceNode> beginning(const SourceDocument& document, const ManifestPath& path)
+{
+    if (!document.root())
+        return {};
+    return {path.isAbsolute() ? document.document() : document.root()};
+}
+
+SourceAttribute attributeNamed(SourceNode element, std::string_view name)
+{
+    for (const SourceAttribute attribute : element.attributes()) {
+        if (attribute.name() == name)
+            return attribute;
+    }
+    return {};
+}
+
+} // namespace zupackage::authoring
+
+namespace zu::authoring {
+
+std::string PathTarget::text() const { return attribute ? std::string(attribute.value()) : element.textContent(); }
+
+std::vector<PathTarget> select(const SourceDocument& document, const ManifestPath& path)
+{
+    std::vector<SourceNode> elements = zupackage::authoring::beginning(document, path);
+    for (const PathStep& step : path.steps())
+        elements = zupackage::authoring::stepFrom(elements, step);
+    std::vector<PathTarget> targets;
+    for (const SourceNode element : elements) {
+        const SourceAttribute attribute = zupackage::authoring::attributeNamed(element, path.attribute());
+        if (path.attribute().empty() || attribute)
+            targets.push_back({element, attribute});
+    }
+    return targets;
+}
+
+} // namespace zu::authoring
