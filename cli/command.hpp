@@ -30,6 +30,9 @@ class Arguments
 public:
     explicit Arguments(CLI::App& parser) : m_parser(parser) {}
 
+    /// Exactly one value.
+    void require(std::string& value, const char* name, const char* type, const char* help);
+
     /// One or more values, which `values` holds once the command line is parsed.
     void require(std::vector<std::string>& values, const char* name, const char* type, const char* help);
 
@@ -47,6 +50,9 @@ public:
 
     /// An option without a value.
     void flag(bool& value, const char* name, const char* help);
+
+    /// Command lines that the help shows, each behind two blanks.
+    void examples(const char* lines);
 
 private:
     CLI::App& m_parser;

@@ -1,10 +1,14 @@
 // The one source that includes the parser of command lines, which takes longer to compile than the rest of the program.
 #include "command_line.hpp"
 
+#include "commands/add.hpp"
 #include "commands/check.hpp"
 #include "commands/diff.hpp"
+#include "commands/get.hpp"
 #include "commands/languages.hpp"
 #include "commands/new.hpp"
+#include "commands/remove.hpp"
+#include "commands/set.hpp"
 #include "commands/show.hpp"
 #include "output.hpp"
 
@@ -26,6 +30,11 @@ constexpr char k_exitCodes[] =
 void Arguments::require(std::vector<std::string>& values, const char* name, const char* type, const char* help)
 {
     m_parser.add_option(name, values, help)->required()->type_name(type);
+}
+
+void Arguments::require(std::string& value, const char* name, const char* type, const char* help)
+{
+    m_parser.add_option(name, value, help)->required()->type_name(type);
 }
 
 void Arguments::accept(std::vector<std::string>& values, const char* name, const char* type, const char* help)
@@ -51,6 +60,11 @@ void Arguments::choice(std::string& value, const char* name, const std::vector<s
 
 void Arguments::flag(bool& value, const char* name, const char* help) { m_parser.add_flag(name, value, help); }
 
+void Arguments::examples(const char* lines)
+{
+    m_parser.footer(std::string("Examples:\n") + lines + "\n" + k_exitCodes);
+}
+
 ExitCode worse(ExitCode left, ExitCode right)
 {
     for (const ExitCode code : {k_usage, k_outputFailed, k_inputFailed, k_absent, k_findings}) {
@@ -66,7 +80,7 @@ ExitCode runCommandLine(int argc, char** argv)
     app.set_version_flag("--version", "zupackage " ZUPACKAGE_VERSION);
     app.require_subcommand(1);
     ExitCode result = k_success;
-    for (const Command& command : {k_check, k_diff, k_languages, k_new, k_show}) {
+    for (const Command& command : {k_add, k_check, k_diff, k_get, k_languages, k_new, k_remove, k_set, k_show}) {
         CLI::App* subcommand = app.add_subcommand(command.name, command.summary);
         subcommand->footer(k_exitCodes);
         Arguments arguments(*subcommand);

@@ -12,7 +12,7 @@
 namespace zu::authoring {
 
 /// A text is no path.
-class PathSyntaxError : public std::runtime_error
+class ZUPACKAGE_AUTHORING_EXPORT PathSyntaxError : public std::runtime_error
 {
 public:
     PathSyntaxError(const std::string& message, std::size_t column) : std::runtime_error(message), m_column(column) {}

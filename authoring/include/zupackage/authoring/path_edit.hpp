@@ -37,7 +37,7 @@ struct Remove
 using PathEdit = std::variant<SetText, AddEntry, Remove>;
 
 /// An edit cannot be made.
-class PathEditError : public std::runtime_error
+class ZUPACKAGE_AUTHORING_EXPORT PathEditError : public std::runtime_error
 {
 public:
     enum class Reason

@@ -1,0 +1,87 @@
+#include "edit/edit_command.hpp"
+
+#include "edit/unified_diff.hpp"
+#include "manifest_bytes.hpp"
+#include "output.hpp"
+
+#include <zupackage/package_info.hpp>
+
+namespace zu::cli {
+
+using authoring::PathEditError;
+using authoring::SourceDocument;
+using authoring::VocabularyGuard;
+
+namespace {
+
+std::string_view textOf(const SourceDocument& document) { return document.source({0, document.text().size()}); }
+
+} // namespace
+
+void acceptEditArguments(EditArguments& parsed, Arguments& arguments)
+{
+    arguments.require(parsed.source, "FILE", "FILE|FOLDER|-",
+                      "A manifest file, a package folder (its manifest.xml), or - for standard input to standard "
+                      "output");
+    arguments.flag(parsed.isForced, "--force", "Make also what manifests do not have, and values of the wrong kind");
+    arguments.flag(parsed.isDryRun, "--dry-run", "Show the difference, and leave the file as it is");
+}
+
+std::optional<SourceDocument> documentOf(const std::string& source)
+{
+    const std::string path = manifestPath(source);
+    std::string bytes;
+    std::string failure;
+    if (!readManifestBytes(path, bytes, failure)) {
+        complain("cannot read " + shownName(path) + ": " + failure);
+        return std::nullopt;
+    }
+    SourceDocument document = SourceDocument::parse(std::move(bytes));
+    if (document.isWellFormed())
+        return document;
+    const authoring::SyntaxError& error = document.errors().front();
+    complain(shownName(path) + ":" + std::to_string(error.place.line) + ":" + std::to_string(error.place.column) +
+             ": " + error.message);
+    return std::nullopt;
+}
+
+ExitCode editManifest(const EditArguments& arguments, const std::vector<authoring::PathEdit>& edits)
+{
+    const std::optional<SourceDocument> document = documentOf(arguments.source);
+    if (!document)
+        return k_inputFailed;
+    const std::string path = manifestPath(arguments.source);
+    try {
+        const SourceDocument result =
+            edited(*document, edits, arguments.isForced ? VocabularyGuard::Waived : VocabularyGuard::Enforced);
+        if (arguments.isDryRun)
+            return writeOutput(differenceOf(path, *document, result)) ? k_success : k_outputFailed;
+        if (path != "-" && result.text() == document->text())
+            return k_success;
+        return writeDocument(path, result.text());
+    } catch (const PathEditError& error) {
+        const bool isAbsent = error.reason() == PathEditError::Reason::NotThere;
+        complain(shownName(path) + ": " + error.what());
+        return isAbsent ? k_absent : k_usage;
+    }
+}
+
+ExitCode writeDocument(const std::string& path, const std::string& bytes)
+{
+    if (path == "-")
+        return writeOutput(bytes) ? k_success : k_outputFailed;
+    try {
+        replaceManifest(path, bytes);
+        return k_success;
+    } catch (const std::runtime_error& error) {
+        complain(error.what());
+        return k_outputFailed;
+    }
+}
+
+std::string differenceOf(const std::string& path, const SourceDocument& before, const SourceDocument& after)
+{
+    return unifiedDiff(shownName(path), textOf(before), textOf(after));
+}
+
+} // namespace zu::cli
