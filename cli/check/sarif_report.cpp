@@ -43,13 +43,21 @@ ordered_json regionOf(const authoring::Place& begin, const authoring::Place& end
             {"endColumn", end.column}, {"byteOffset", bytes.begin},   {"byteLength", bytes.size()}};
 }
 
+/// Compilers do not agree on whether braces around a single value make a list of it.
+ordered_json listOf(ordered_json value)
+{
+    ordered_json list = ordered_json::array();
+    list.push_back(std::move(value));
+    return list;
+}
+
 ordered_json locationOf(const std::string& manifest, const SourceRange& range)
 {
     ordered_json location = {
         {"physicalLocation",
          {{"artifactLocation", artifactOf(manifest)}, {"region", regionOf(range.begin, range.end, range.bytes)}}}};
     if (!range.path.empty())
-        location["logicalLocations"] = {{{"fullyQualifiedName", range.path}}};
+        location["logicalLocations"] = listOf({{"fullyQualifiedName", range.path}});
     return location;
 }
 
@@ -66,7 +74,7 @@ ordered_json fixOf(const CheckedManifest& manifest, const authoring::Fix& fix)
     }
     return {{"description", {{"text", fix.title}}},
             {"artifactChanges",
-             {{{"artifactLocation", artifactOf(manifest.name)}, {"replacements", std::move(replacements)}}}}};
+             listOf({{"artifactLocation", artifactOf(manifest.name)}, {"replacements", std::move(replacements)}})}};
 }
 
 ordered_json resultOf(const CheckedManifest& manifest, const Diagnostic& finding)
@@ -77,13 +85,13 @@ ordered_json resultOf(const CheckedManifest& manifest, const Diagnostic& finding
                            {"ruleIndex", rule - rules.data()},
                            {"level", levelOf(finding.severity)},
                            {"message", {{"text", finding.message}}},
-                           {"locations", {locationOf(manifest.name, finding.range)}}};
+                           {"locations", listOf(locationOf(manifest.name, finding.range))}};
     for (const authoring::RelatedPlace& related : finding.related) {
         ordered_json& location = result["relatedLocations"].emplace_back(locationOf(manifest.name, related.range));
         location["message"] = {{"text", related.message}};
     }
     if (finding.fix)
-        result["fixes"] = {fixOf(manifest, *finding.fix)};
+        result["fixes"] = listOf(fixOf(manifest, *finding.fix));
     return result;
 }
 
@@ -110,12 +118,13 @@ public:
             m_notifications.push_back(
                 {{"level", "error"},
                  {"message", {{"text", manifest.failure}}},
-                 {"locations", {{{"physicalLocation", {{"artifactLocation", artifactOf(manifest.name)}}}}}}});
+                 {"locations", listOf({{"physicalLocation", {{"artifactLocation", artifactOf(manifest.name)}}}})}});
         for (const Diagnostic& finding : manifest.report.findings)
             m_results.push_back(resultOf(manifest, finding));
         for (const Diagnostic& finding : manifest.report.suppressed) {
             ordered_json& result = m_results.emplace_back(resultOf(manifest, finding));
-            result["suppressions"] = {{{"kind", "external"}, {"justification", manifest.reasons.at(finding.rule)}}};
+            result["suppressions"] =
+                listOf({{"kind", "external"}, {"justification", manifest.reasons.at(finding.rule)}});
         }
         return {};
     }
@@ -126,12 +135,11 @@ public:
             {"driver", {{"name", "zupackage"}, {"version", ZUPACKAGE_VERSION}, {"rules", rulesOf()}}}};
         const ordered_json run = {{"tool", tool},
                                   {"columnKind", "unicodeCodePoints"},
-                                  {"invocations",
-                                   {{{"executionSuccessful", summary.unreadable == 0},
-                                     {"toolExecutionNotifications", std::move(m_notifications)}}}},
+                                  {"invocations", listOf({{"executionSuccessful", summary.unreadable == 0},
+                                                          {"toolExecutionNotifications", std::move(m_notifications)}})},
                                   {"results", std::move(m_results)}};
         const ordered_json log = {
-            {"$schema", "https://json.schemastore.org/sarif-2.1.0.json"}, {"version", "2.1.0"}, {"runs", {run}}};
+            {"$schema", "https://json.schemastore.org/sarif-2.1.0.json"}, {"version", "2.1.0"}, {"runs", listOf(run)}};
         return log.dump(2, ' ', false, ordered_json::error_handler_t::replace) + "\n";
     }
 
