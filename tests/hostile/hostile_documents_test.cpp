@@ -64,6 +64,7 @@ void expectOutcomes(const std::string& path, const std::string& asText, const st
         EXPECT_THAT(read("text", stack, path, bytes), isOutcome(asText));
         EXPECT_THAT(read("file", stack, path, bytes), isOutcome(asFile));
     }
+    EXPECT_EQ(read("check", "small", path, bytes), "checked\n");
 }
 
 class LargeHostileDocument : public testing::TestWithParam<test::HostileDocument>
@@ -98,6 +99,7 @@ TEST(HostileDocument, EachSmallOneHasItsOutcome)
         const std::string asFile = read("file", "main", file, 0);
         EXPECT_EQ(read("text", "small", file, 0), asText) << file;
         EXPECT_EQ(read("file", "small", file, 0), asFile) << file;
+        EXPECT_EQ(read("check", "small", file, 0), "checked\n") << file;
         outcomes << file.stem().string() << "\n    " << asText << "    " << asFile;
     }
     test::expectGolden(outcomes.str(), "../hostile/outcomes.txt");

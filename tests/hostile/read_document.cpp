@@ -1,6 +1,7 @@
-// Reads a document in a process of its own, and does with it what a caller may do.
-// usage: zupackage_read_document text|file main|small PATH CPU_SECONDS MEMORY_MIB
+// Reads a document in a process of its own, and does with it what a caller may do; or checks it.
+// usage: zupackage_read_document text|file|check main|small PATH CPU_SECONDS MEMORY_MIB
 //   small: on a thread with a stack of 512 KiB; MEMORY_MIB: 0 for as much as there is
+#include <zupackage/authoring/check.hpp>
 #include <zupackage/package_info2.hpp>
 #include <zupackage/vxvalue.hpp>
 
@@ -39,9 +40,13 @@ void use(zu::PackageInfo& package)
     const zu::PackageInfo copy(package);
 }
 
-/// @return what became of it: "read", or the words of the failure.
+/// @return what became of it: "read" or "checked", or the words of the failure.
 std::string outcome(const std::string& form, const std::string& path)
 {
+    if (form == "check") {
+        zu::authoring::check(zu::authoring::SourceDocument::parse(contentOf(path)));
+        return "checked";
+    }
     std::string words;
     zu::log::addHandler([&words](const zu::log::Record& record) {
         // The words stand behind a whole document, which may have any words in it.
