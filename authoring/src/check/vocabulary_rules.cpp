@@ -53,7 +53,7 @@ void forEachUnknown(const Outline& outline, Visit visit)
 }
 
 /// What an element is for that the vocabulary does not know: a permission has a rule of its own.
-bool isPermission(const ElementEntry& parent) { return parent.path == "/package/contents/behaviorContent/permissions"; }
+bool holdsPermissions(const ElementEntry& parent) { return parent.path == "/package/contents/behaviorContent/permissions"; }
 
 void findUnknownRoot(const Checked& checked, Findings& findings)
 {
@@ -76,7 +76,7 @@ void findUnknownElements(const Checked& checked, Findings& findings)
 {
     forEachUnknown(checked.outline, [&](SourceNode element, const ElementEntry& parent) {
         const std::string_view meant = nearest(element.name(), namesOf(parent.children));
-        if (isPermission(parent) || (meant.empty() && !homesOf(element.name()).empty()))
+        if (holdsPermissions(parent) || (meant.empty() && !homesOf(element.name()).empty()))
             return;
         Finding& finding = findings.at(element, "unknown element " + inQuotes(element.name()) + " in " +
                                                     inQuotes(parent.name) + fate(parent) + didYouMean(meant));
@@ -91,7 +91,7 @@ void findMisplacedElements(const Checked& checked, Findings& findings)
 {
     forEachUnknown(checked.outline, [&](SourceNode element, const ElementEntry& parent) {
         const std::vector<std::string> homes = homesOf(element.name());
-        if (isPermission(parent) || homes.empty() || !nearest(element.name(), namesOf(parent.children)).empty())
+        if (holdsPermissions(parent) || homes.empty() || !nearest(element.name(), namesOf(parent.children)).empty())
             return;
         findings.at(element, inQuotes(element.name()) + " does not belong in " + inQuotes(parent.name) + " but in " +
                                  alternatives(homes));

@@ -10,8 +10,6 @@ namespace {
 using zu::authoring::Occurrence;
 using zu::authoring::ValueKind;
 
-constexpr std::string_view k_ownText = ".";
-
 /// Whether the text can stand in a path, between quotes of one kind, and say something there.
 bool canBeQuoted(std::string_view text)
 {

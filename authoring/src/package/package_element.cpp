@@ -15,8 +15,6 @@ using zu::authoring::AttributeEntry;
 using zu::authoring::Occurrence;
 using zu::authoring::ValueKind;
 
-constexpr std::string_view k_ownText = ".";
-
 QLatin1String asciiOf(std::string_view name) { return QLatin1String(name.data(), static_cast<int>(name.size())); }
 
 PackageElement elementFrom(QXmlStreamReader& reader, const ElementEntry& entry)

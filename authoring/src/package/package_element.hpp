@@ -4,10 +4,14 @@
 #include <zupackage/package_info.hpp>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// Packages as trees of what the vocabulary knows, so that what compares and merges them need not know their fields.
 namespace zupackage::authoring {
+
+/// The identity of entries that their own text identifies, in the vocabulary.
+inline constexpr std::string_view k_ownText = ".";
 
 using zu::authoring::ElementEntry;
 
