@@ -28,13 +28,17 @@ void Findings::beginRule(const zu::authoring::Rule& rule)
     m_foundBefore = m_found.size();
 }
 
+bool Findings::omit()
+{
+    if (!isFull())
+        return false;
+    ++m_omitted;
+    return true;
+}
+
 Finding& Findings::at(ByteRange range, SourceNode node, std::string message)
 {
-    Finding* finding = &m_discarded;
-    if (!isFull())
-        finding = &m_found.emplace_back();
-    else
-        ++m_omitted;
+    Finding* const finding = omit() ? &m_discarded : &m_found.emplace_back();
     *finding = Finding{};
     finding->rule = m_rule;
     finding->range = range;

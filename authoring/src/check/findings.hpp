@@ -75,6 +75,10 @@ public:
     /// Whether the rule has found as much as it may, so that it need not go on.
     bool isFull() const { return m_found.size() - m_foundBefore >= m_limitPerRule; }
 
+    /// Counts a finding that there is no room for, so that its words need not be made.
+    /// @return false while there is room: the finding has to be told then.
+    bool omit();
+
     std::vector<Finding>& found() { return m_found; }
     std::size_t omitted() const { return m_omitted; }
 

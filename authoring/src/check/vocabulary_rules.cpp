@@ -3,6 +3,8 @@
 #include "edits.hpp"
 
 #include <algorithm>
+#include <map>
+#include <utility>
 
 namespace zupackage::check {
 
@@ -53,7 +55,10 @@ void forEachUnknown(const Outline& outline, Visit visit)
 }
 
 /// What an element is for that the vocabulary does not know: a permission has a rule of its own.
-bool holdsPermissions(const ElementEntry& parent) { return parent.path == "/package/contents/behaviorContent/permissions"; }
+bool holdsPermissions(const ElementEntry& parent)
+{
+    return parent.path == "/package/contents/behaviorContent/permissions";
+}
 
 void findUnknownRoot(const Checked& checked, Findings& findings)
 {
@@ -63,6 +68,31 @@ void findUnknownRoot(const Checked& checked, Findings& findings)
             .unsafeFix("call the root element \"package\"",
                        authoring::renaming(root, Vocabulary::manifest().root().name));
 }
+
+/// What the vocabulary says about unknown elements, found out once for the many of one name.
+class Meanings
+{
+public:
+    struct Meaning
+    {
+        std::string_view meant; ///< an element of that parent, which the name is a slip of; empty when there is none
+        std::vector<std::string> homes;
+    };
+
+    const Meaning& of(SourceNode element, const ElementEntry& parent)
+    {
+        if (m_known.size() > k_most)
+            m_known.clear();
+        const auto [place, isNew] = m_known.try_emplace({&parent, element.name()});
+        if (isNew)
+            place->second = {nearest(element.name(), namesOf(parent.children)), homesOf(element.name())};
+        return place->second;
+    }
+
+private:
+    static constexpr std::size_t k_most = 1000;
+    std::map<std::pair<const ElementEntry*, std::string_view>, Meaning> m_known;
+};
 
 /// What readers make of an unknown element there.
 std::string fate(const ElementEntry& parent)
@@ -74,9 +104,10 @@ std::string fate(const ElementEntry& parent)
 
 void findUnknownElements(const Checked& checked, Findings& findings)
 {
+    Meanings meanings;
     forEachUnknown(checked.outline, [&](SourceNode element, const ElementEntry& parent) {
-        const std::string_view meant = nearest(element.name(), namesOf(parent.children));
-        if (holdsPermissions(parent) || (meant.empty() && !homesOf(element.name()).empty()))
+        const auto& [meant, homes] = meanings.of(element, parent);
+        if (holdsPermissions(parent) || (meant.empty() && !homes.empty()) || findings.omit())
             return;
         Finding& finding = findings.at(element, "unknown element " + inQuotes(element.name()) + " in " +
                                                     inQuotes(parent.name) + fate(parent) + didYouMean(meant));
@@ -89,9 +120,10 @@ void findUnknownElements(const Checked& checked, Findings& findings)
 
 void findMisplacedElements(const Checked& checked, Findings& findings)
 {
+    Meanings meanings;
     forEachUnknown(checked.outline, [&](SourceNode element, const ElementEntry& parent) {
-        const std::vector<std::string> homes = homesOf(element.name());
-        if (holdsPermissions(parent) || homes.empty() || !nearest(element.name(), namesOf(parent.children)).empty())
+        const auto& [meant, homes] = meanings.of(element, parent);
+        if (holdsPermissions(parent) || homes.empty() || !meant.empty() || findings.omit())
             return;
         findings.at(element, inQuotes(element.name()) + " does not belong in " + inQuotes(parent.name) + " but in " +
                                  alternatives(homes));
@@ -115,7 +147,7 @@ void findUnknownAttributes(const Checked& checked, Findings& findings)
     for (const SourceNode element : checked.outline.elements()) {
         const ElementEntry& entry = *checked.outline.entry(element);
         for (const SourceAttribute attribute : element.attributes()) {
-            if (isXmlsOwn(attribute) || entry.attribute(attribute.name()))
+            if (isXmlsOwn(attribute) || entry.attribute(attribute.name()) || findings.omit())
                 continue;
             std::vector<std::string_view> names;
             for (const AttributeEntry& known : entry.attributes)
@@ -163,7 +195,8 @@ void findCountedNodes(const Checked& checked, Findings& findings)
         if (!entry.countsEveryChild)
             continue;
         for (const SourceNode node : list.children()) {
-            if (const char* const what = looseContent(node))
+            const char* const what = looseContent(node);
+            if (what && !findings.omit())
                 findings
                     .atWhole(node, std::string(what) + " in " + inQuotes(entry.name) + " is read as an empty " +
                                        inQuotes(entry.children.front()->name))
@@ -181,7 +214,7 @@ void findStrayTexts(const Checked& checked, Findings& findings)
             continue;
         for (const SourceNode node : element.children()) {
             const bool isText = node.kind() == NodeKind::Text || node.kind() == NodeKind::CData;
-            if (isText && !isBlank(node.value()))
+            if (isText && !isBlank(node.value()) && !findings.omit())
                 findings
                     .atWhole(node, "text in " + inQuotes(entry.name) +
                                        ", where readers skip it: " + inQuotes(trimmed(node.value())))
