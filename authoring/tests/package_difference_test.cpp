@@ -184,6 +184,14 @@ TEST(PackageDifference, WhatATextIdentifiesBadlyIsNumbered)
                             "added executableFiles/file[6]:  | "));
 }
 
+TEST(PackageDifference, CarriageReturnsOfConditionsCount)
+{
+    const std::string begin = "<autonomous><condition purpose='p'>a";
+    EXPECT_THAT(changesOfBehavior(begin + "\nb</condition></autonomous>", begin + "&#13;\nb</condition></autonomous>"),
+                ElementsAre("changed contents/behaviorContent[@path='b']/autonomous/condition[@purpose='p']: "
+                            "a\nb | a\r\nb"));
+}
+
 TEST(PackageDifference, WhatManifestsDoNotCarryDoesNotCount)
 {
     PackageInfo package = test::wholePackage();

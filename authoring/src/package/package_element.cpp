@@ -87,7 +87,11 @@ bool operator==(const PackageElement& left, const PackageElement& right)
 PackageElement elementOf(const zu::PackageInfo& package)
 {
     // A copy, for the writer is not const.
-    QXmlStreamReader reader(QByteArray::fromStdString(zu::PackageInfo(package).saveToManifestContent()));
+    QByteArray manifest = QByteArray::fromStdString(zu::PackageInfo(package).saveToManifestContent());
+    // The writer leaves carriage returns as they are in CDATA sections alone, and there the package library's reader
+    // keeps them, while others make line feeds of them.
+    manifest.replace('\r', "]]>&#13;<![CDATA[");
+    QXmlStreamReader reader(manifest);
     reader.readNextStartElement();
     return elementFrom(reader, zu::authoring::Vocabulary::manifest().root());
 }
