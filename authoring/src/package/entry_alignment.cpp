@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <string_view>
-#include <unordered_map>
 
 namespace zupackage::authoring {
 
@@ -103,7 +102,7 @@ public:
     std::vector<AlignedEntry> run()
     {
         match(keysOf(m_before), keysOf(m_after));
-        match(namesOf(m_before, localeOf), namesOf(m_after, localeOf));
+        match(localesOf(m_before), localesOf(m_after));
         m_rises = longestRising(m_counterpart);
         for (std::size_t j = 0; j < m_after.size(); ++j) {
             if (m_rises[j])
@@ -118,15 +117,23 @@ public:
     }
 
 private:
-    using Name = std::string (*)(const PackageElement&);
-
-    static std::vector<std::string> namesOf(const std::vector<PackageElement>& entries, Name name)
+    static std::vector<std::string> keysOf(const std::vector<PackageElement>& entries)
     {
-        std::vector<std::string> names;
-        names.reserve(entries.size());
+        KeyCounter counter;
+        std::vector<std::string> keys;
+        keys.reserve(entries.size());
         for (const PackageElement& entry : entries)
-            names.push_back(name(entry));
-        return names;
+            keys.push_back(counter.keyOf(entry));
+        return keys;
+    }
+
+    static std::vector<std::string> localesOf(const std::vector<PackageElement>& entries)
+    {
+        std::vector<std::string> locales;
+        locales.reserve(entries.size());
+        for (const PackageElement& entry : entries)
+            locales.push_back(localeOf(entry));
+        return locales;
     }
 
     /// Makes those of one name, and not of an empty one, counterparts, the first of them first.
@@ -205,16 +212,10 @@ std::vector<AlignedEntry> align(const std::vector<PackageElement>& before, const
     return Alignment(before, after).run();
 }
 
-std::vector<std::string> keysOf(const std::vector<PackageElement>& entries)
+std::string KeyCounter::keyOf(const PackageElement& entry)
 {
-    std::unordered_map<std::string, std::size_t> counts;
-    std::vector<std::string> keys;
-    keys.reserve(entries.size());
-    for (const PackageElement& entry : entries) {
-        const std::string name = nameOf(entry);
-        keys.push_back(joined({name, std::to_string(counts[name]++)}));
-    }
-    return keys;
+    const std::string name = nameOf(entry);
+    return joined({name, std::to_string(m_counts[name]++)});
 }
 
 } // namespace zupackage::authoring

@@ -4,6 +4,8 @@
 
 #include <cstddef>
 #include <optional>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace zupackage::authoring {
@@ -21,8 +23,15 @@ struct AlignedEntry
 /// list, with what is gone before what came into its place; moved are as few as possible.
 std::vector<AlignedEntry> align(const std::vector<PackageElement>& before, const std::vector<PackageElement>& after);
 
-/// What tells each entry from the others of the list: its element and identity, or its text and attributes, and how
-/// many of the same come before it.
-std::vector<std::string> keysOf(const std::vector<PackageElement>& entries);
+/// Says what tells each entry from the others of a list: its element and identity, or its text and attributes, and how
+/// many of the same were asked for before it.
+class KeyCounter
+{
+public:
+    std::string keyOf(const PackageElement& entry);
+
+private:
+    std::unordered_map<std::string, std::size_t> m_counts;
+};
 
 } // namespace zupackage::authoring

@@ -1,0 +1,90 @@
+#include "check/outline.hpp"
+#include "package/element_merge.hpp"
+
+#include <zupackage/authoring/manifest_editor.hpp>
+#include <zupackage/authoring/package_merge.hpp>
+
+#include <algorithm>
+
+namespace zu::authoring {
+
+namespace {
+
+using namespace zupackage::authoring;
+
+/// Known to the vocabulary, but not to PackageInfo.
+constexpr std::string_view k_webContent = "webContent";
+
+PackageElement elementIn(const std::string& manifest)
+{
+    PackageInfo package;
+    ManifestSyntaxError error;
+    if (!manifest.empty() && !readManifest(manifest, package, &error))
+        throw ManifestEditError(error.message,
+                                {static_cast<std::size_t>(error.line), static_cast<std::size_t>(error.column)});
+    return elementOf(package);
+}
+
+bool isOutsidePackage(SourceNode node, const zupackage::check::Outline& outline)
+{
+    if (node.kind() == NodeKind::Comment || node.kind() == NodeKind::ProcessingInstruction)
+        return true;
+    if (!node.isElement())
+        return false;
+    const ElementEntry* const parent = outline.entry(node.parent());
+    return node.localName() == k_webContent || (!outline.entry(node) && !(parent && parent->countsEveryChild));
+}
+
+/// What stands in a manifest and is no part of its package, sorted.
+std::vector<std::string> textOutsidePackage(const std::string& manifest)
+{
+    const SourceDocument document = SourceDocument::parse(manifest);
+    const zupackage::check::Outline outline(document);
+    std::vector<std::string> texts;
+    for (std::size_t i = 0; i < document.nodeCount(); ++i) {
+        const SourceNode node = document.node(i);
+        if (isOutsidePackage(node, outline))
+            texts.emplace_back(document.source(node.range()));
+        const ElementEntry* const entry = outline.entry(node);
+        for (const SourceAttribute attribute : node.attributes()) {
+            if (entry && !entry->attribute(attribute.name()))
+                texts.emplace_back(document.source(attribute.range()));
+        }
+    }
+    std::sort(texts.begin(), texts.end());
+    return texts;
+}
+
+bool leavesTextBehind(const std::string& base, const std::string& ours, const std::string& theirs)
+{
+    const std::vector<std::string> outside = textOutsidePackage(theirs);
+    return outside != textOutsidePackage(base) && outside != textOutsidePackage(ours);
+}
+
+} // namespace
+
+PackageMerge mergePackages(const PackageInfo& base, const PackageInfo& ours, const PackageInfo& theirs)
+{
+    MergedElement merged = mergeElements(elementOf(base), elementOf(ours), elementOf(theirs));
+    const PackageInfo result = packageOf(merged.ours);
+    return {result, merged.conflicts.empty() ? result : packageOf(merged.theirs), std::move(merged.conflicts)};
+}
+
+ManifestMerge mergeManifests(const std::string& base, const std::string& ours, const std::string& theirs)
+{
+    ManifestEditor editor(SourceDocument::parse(ours));
+    const PackageElement ourElement = elementOf(editor.package());
+    MergedElement merged = mergeElements(elementIn(base), ourElement, elementIn(theirs));
+    ManifestMerge result;
+    result.leavesTextBehind = leavesTextBehind(base, ours, theirs);
+    if (merged.ours != ourElement)
+        editor.update(packageOf(merged.ours));
+    result.ours = editor.document().text();
+    if (!merged.conflicts.empty())
+        editor.update(packageOf(merged.theirs));
+    result.theirs = editor.document().text();
+    result.conflicts = std::move(merged.conflicts);
+    return result;
+}
+
+} // namespace zu::authoring

@@ -1,0 +1,119 @@
+#include "support/edited_packages.hpp"
+#include "support/property.hpp"
+
+#include <zupackage/authoring/package_difference.hpp>
+#include <zupackage/authoring/package_merge.hpp>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <sstream>
+
+namespace zu::authoring {
+
+namespace {
+
+using test::asManifestsCarry;
+
+PackageInfo editedCopy(const PackageInfo& package)
+{
+    PackageInfo copy = package;
+    test::editAnything(copy, 4);
+    return copy;
+}
+
+/// The words of a text in an order of their own.
+std::vector<std::string> sortedWords(std::string text)
+{
+    std::replace(text.begin(), text.end(), ',', ' ');
+    std::istringstream in(text);
+    std::vector<std::string> words{std::istream_iterator<std::string>(in), {}};
+    std::sort(words.begin(), words.end());
+    return words;
+}
+
+constexpr std::size_t k_sections = 9;
+
+/// A package that has each of its sections from another one.
+PackageInfo composed(const std::array<const PackageInfo*, k_sections>& from)
+{
+    PackageInfo package;
+    package.setVersion(from[0]->version());
+    package.setInstallOnlyAtStartup(from[0]->installOnlyAtStartup());
+    for (const auto& [lang, name] : from[1]->names())
+        package.setName(name, lang);
+    for (const auto& [lang, description] : from[2]->descriptions())
+        package.setDescription(description, lang);
+    for (const std::string& lang : from[3]->supportedLanguages())
+        package.addSupportedLanguage(lang);
+    package.behaviors() = from[4]->behaviors();
+    for (const DialogInfo& dialog : from[5]->dialogs())
+        package.addDialog(dialog);
+    for (const LanguageInfo& language : from[6]->languages())
+        package.addLanguage(language);
+    package.robotRequirements() = from[7]->robotRequirements();
+    package.morvoRequirements() = from[7]->morvoRequirements();
+    for (const PackageService& service : from[8]->services())
+        package.addService(service);
+    return package;
+}
+
+} // namespace
+
+TEST(PackageMergeProperties, WhatOneSideAloneDidIsTheMerge)
+{
+    test::checkProperty(10'000, [] {
+        const PackageInfo base = test::anySmallPackage();
+        const PackageInfo side = editedCopy(base);
+        const int form = *rc::gen::resize(rc::kNominalSize, rc::gen::inRange(0, 3));
+        const PackageMerge merged = mergePackages(base, form == 0 ? base : side, form == 1 ? base : side);
+        RC_ASSERT(merged.conflicts.empty());
+        RC_ASSERT(asManifestsCarry(merged.ours) == asManifestsCarry(side));
+    });
+}
+
+TEST(PackageMergeProperties, SidesThatChangePlacesMakeTheSameUpToOrder)
+{
+    int conflicts = 0;
+    const int count = test::checkProperty(10'000, [&conflicts] {
+        const PackageInfo base = test::anySmallPackage();
+        const PackageInfo ours = editedCopy(base);
+        const PackageInfo theirs = editedCopy(base);
+        const PackageMerge merged = mergePackages(base, ours, theirs);
+        const PackageMerge mirrored = mergePackages(base, theirs, ours);
+        RC_ASSERT(merged.conflicts.size() == mirrored.conflicts.size());
+        RC_ASSERT(sortedWords(asManifestsCarry(merged.ours)) == sortedWords(asManifestsCarry(mirrored.theirs)));
+        if (merged.conflicts.empty())
+            return;
+        RC_ASSERT(!differences(merged.ours, merged.theirs).empty());
+        ++conflicts;
+    });
+    EXPECT_GT(conflicts, count / 100);
+}
+
+TEST(PackageMergeProperties, EditsOfDifferentSectionsAreBothThere)
+{
+    test::checkProperty(10'000, [] {
+        const PackageInfo base = test::anySmallPackage();
+        const PackageInfo ourSource = test::anySmallPackage();
+        const PackageInfo theirSource = test::anySmallPackage();
+        const auto masks = *rc::gen::pair(rc::gen::arbitrary<unsigned>(), rc::gen::arbitrary<unsigned>());
+        std::array<const PackageInfo*, k_sections> ours{};
+        std::array<const PackageInfo*, k_sections> theirs{};
+        std::array<const PackageInfo*, k_sections> both{};
+        for (std::size_t i = 0; i < k_sections; ++i) {
+            const bool isOurs = (masks.first >> i & 1U) != 0;
+            const bool isTheirs = !isOurs && (masks.second >> i & 1U) != 0;
+            ours[i] = isOurs ? &ourSource : &base;
+            theirs[i] = isTheirs ? &theirSource : &base;
+            both[i] = isOurs ? &ourSource : isTheirs ? &theirSource : &base;
+        }
+        const PackageMerge merged = mergePackages(base, composed(ours), composed(theirs));
+        RC_ASSERT(merged.conflicts.empty());
+        RC_ASSERT(asManifestsCarry(merged.ours) == asManifestsCarry(composed(both)));
+    });
+}
+
+} // namespace zu::authoring
