@@ -10,6 +10,7 @@
 #include "commands/remove.hpp"
 #include "commands/set.hpp"
 #include "commands/show.hpp"
+#include "commands/site.hpp"
 #include "output.hpp"
 
 #include <CLI/CLI.hpp>
@@ -80,7 +81,8 @@ ExitCode runCommandLine(int argc, char** argv)
     app.set_version_flag("--version", "zupackage " ZUPACKAGE_VERSION);
     app.require_subcommand(1);
     ExitCode result = k_success;
-    for (const Command& command : {k_add, k_check, k_diff, k_get, k_languages, k_new, k_remove, k_set, k_show}) {
+    for (const Command& command :
+         {k_add, k_check, k_diff, k_get, k_languages, k_new, k_remove, k_set, k_show, k_site}) {
         CLI::App* subcommand = app.add_subcommand(command.name, command.summary);
         subcommand->footer(k_exitCodes);
         Arguments arguments(*subcommand);

@@ -15,11 +15,12 @@ namespace {
 bool read(QFile& file, std::string& bytes, std::string& failure)
 {
     constexpr std::size_t k_most = std::size_t{64} * 1024 * 1024 + 1;
-    constexpr std::size_t k_block = 64 * 1024;
+    // Of the size of most manifests, which are small; devices and pipes say that they have none.
+    const qint64 block = std::clamp<qint64>(file.size() + 1, 4 * 1024, 64 * 1024);
     while (bytes.size() < k_most) {
         const std::size_t before = bytes.size();
-        bytes.resize(before + k_block);
-        const qint64 count = file.read(&bytes[before], k_block);
+        bytes.resize(before + static_cast<std::size_t>(block));
+        const qint64 count = file.read(&bytes[before], block);
         bytes.resize(before + static_cast<std::size_t>(std::max<qint64>(count, 0)));
         if (count < 0)
             failure = file.errorString().toStdString();

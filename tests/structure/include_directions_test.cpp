@@ -65,6 +65,7 @@ const std::vector<Rule> k_rules = {
     {"examples/api/", {k_package, k_framework, "std/"}},
     {"tests/consumer/", {k_authoring, k_package, k_framework, "std/"}},
     {"tests/loading/", {"tests/", k_package, k_framework, "gmock/", "gtest/", "std/"}},
+    {"tests/site/", {"tests/", "cli/site/", "gmock/", "gtest/", "std/"}},
     {"tests/cli/", {"tests/", "QtCore/", "gmock/", "gtest/", "sys/", "std/"}},
     {"tests/",
      {"tests/", "src/", k_package, k_framework, "QtCore/", "QtXml/", "boost/", "gmock/", "gtest/", "sys/", "std/"}},

@@ -1,0 +1,92 @@
+#include "commands/site.hpp"
+
+#include "manifest_search.hpp"
+#include "ordered_parallel.hpp"
+#include "output.hpp"
+#include "site/site_folder.hpp"
+#include "site/site_writer.hpp"
+#include "terminal.hpp"
+
+#include <algorithm>
+#include <memory>
+
+namespace zu::cli {
+
+namespace {
+
+struct SiteArguments
+{
+    std::vector<std::string> sources;
+    std::string folder;
+    std::string file;
+    std::string title = "Packages";
+};
+
+/// Adds the packages to the site.
+/// @return what the program ends with.
+ExitCode addAll(const std::vector<std::string>& manifests, SiteWriter& site)
+{
+    ExitCode result = k_success;
+    std::size_t number = 0;
+    Progress progress(manifests.size(), "read");
+    inOrder<SiteArticle>(
+        manifests.size(), [&](std::size_t i) { return site.articleOf(readSitePackage(manifests[i]), i); },
+        [&](const SiteArticle& article) {
+            const CheckedManifest& checked = article.package.checked;
+            const std::string& failure = checked.failure.empty() ? article.package.refusal : checked.failure;
+            if (!failure.empty()) {
+                progress.clear();
+                complain("cannot read " + checked.name + ": " + failure);
+                result = k_inputFailed;
+            }
+            // What is no package has a page all the same, with what is wrong; what is no file has none.
+            if (checked.failure.empty())
+                site.add(article, number);
+            ++number;
+            progress.advance();
+            return true;
+        });
+    progress.clear();
+    return result;
+}
+
+ExitCode makeSite(const SiteArguments& arguments)
+{
+    if (arguments.folder.empty() == arguments.file.empty()) {
+        complain("name a folder with -o, or a file with --single");
+        return k_usage;
+    }
+    ExitCode result = k_success;
+    try {
+        const std::unique_ptr<SiteWriter> site = arguments.file.empty()
+                                                     ? folderSiteWriter(arguments.folder, arguments.title)
+                                                     : singleFileSiteWriter(arguments.file, arguments.title);
+        const std::vector<std::string> manifests = manifestsIn(arguments.sources, result);
+        result = worse(result, addAll(manifests, *site));
+        site->finish();
+    } catch (const SettingsError& error) {
+        complain(error.what());
+        return k_usage;
+    } catch (const SiteError& error) {
+        complain(error.what());
+        return worse(result, k_outputFailed);
+    }
+    return result;
+}
+
+std::function<ExitCode()> prepare(Arguments& arguments)
+{
+    auto parsed = std::make_shared<SiteArguments>();
+    arguments.require(parsed->sources, "SOURCE", "FILE|FOLDER|-",
+                      "Manifest files, folders of packages at any depth, or - for standard input");
+    arguments.option(parsed->folder, "-o,--output", "DIR", "The folder of the site; it must hold nothing else");
+    arguments.option(parsed->file, "--single", "FILE", "Write the site as one file, or - for standard output");
+    arguments.option(parsed->title, "--title", "TEXT", "What the site is called; \"Packages\" by default");
+    return [parsed] { return makeSite(*parsed); };
+}
+
+} // namespace
+
+const Command k_site = {"site", "Make a site of packages, as static pages", prepare};
+
+} // namespace zu::cli

@@ -1,0 +1,155 @@
+#include "site/index_page.hpp"
+
+#include "site/package_page.hpp"
+
+#include <QtCore/QString>
+
+#include <algorithm>
+
+namespace zu::cli {
+
+namespace {
+
+// What a card shows of each facet, and what can be filtered by. More is not a package but an attack.
+constexpr std::size_t k_mostChips = 60;
+
+std::set<std::string> robotsOf(const PackageInfo& package)
+{
+    std::set<std::string> robots;
+    for (const RobotRequirement& robot : package.robotRequirements()) {
+        if (!robot.model.empty() && robots.size() < k_mostChips)
+            robots.insert(robot.model);
+    }
+    return robots;
+}
+
+std::set<std::string> permissionsOf(const PackageInfo& package)
+{
+    std::set<std::string> permissions;
+    for (const BehaviorInfo& behavior : package.behaviors()) {
+        for (const std::string& permission : behavior.permissions()) {
+            if (permissions.size() < k_mostChips)
+                permissions.insert(permission);
+        }
+    }
+    return permissions;
+}
+
+std::set<std::string> languagesOf(const SitePackage& package)
+{
+    const std::vector<std::string> offered = offeredLanguages(package);
+    return {offered.begin(), offered.begin() + static_cast<std::ptrdiff_t>(std::min(offered.size(), k_mostChips))};
+}
+
+/// The facet's values, which the script filters by.
+Html chips(const char* facet, std::string_view label, const std::set<std::string>& values)
+{
+    Html html;
+    if (values.empty())
+        return html;
+    html << "<div><dt>"_html << label << "</dt><dd><ul class=\"chips\" data-facet=\""_html << facet << "\">"_html;
+    for (const std::string& value : values)
+        html << "<li>"_html << value << "</li>"_html;
+    return html << "</ul></dd></div>\n"_html;
+}
+
+/// What people may look for beyond what the card shows.
+Html searchedText(const PackageInfo& package)
+{
+    Html html;
+    html << package.uuid() << " "_html << package.author() << " "_html << package.organization();
+    for (const auto& [language, name] : package.names())
+        html << " "_html << name;
+    for (const BehaviorInfo& behavior : package.behaviors()) {
+        for (const auto& [language, name] : behavior.names())
+            html << " "_html << name;
+        for (const auto& [language, tags] : behavior.languagesToTags()) {
+            for (const std::string& tag : tags)
+                html << " "_html << tag;
+        }
+    }
+    return html;
+}
+
+Html cardOf(const SitePackage& package, const std::string& link)
+{
+    const PackageInfo& info = package.package;
+    Html html;
+    html << "<li class=\"card\" data-search=\""_html << searchedText(info) << "\">\n<h2><a href=\""_html << link
+         << "\""_html;
+    if (!package.titleLanguage.empty())
+        html << languageAttributes(package.titleLanguage);
+    html << ">"_html << package.title << "</a></h2>\n<p class=\"badges\">"_html;
+    if (!info.version().empty())
+        html << "<span class=\"badge\">"_html << info.version() << "</span> "_html;
+    if (!info.channel().empty())
+        html << "<span class=\"badge\">"_html << info.channel() << "</span> "_html;
+    html << findingsBadge(package.checked) << "</p>\n"_html;
+    if (const auto* text = preferredText(info.descriptions(), info))
+        html << "<p class=\"summary\""_html << languageAttributes(text->first) << ">"_html << text->second
+             << "</p>\n"_html;
+    Html facets;
+    facets << chips("language", "Languages", languagesOf(package)) << chips("robot", "Robots", robotsOf(info))
+           << chips("permission", "Permissions", permissionsOf(info));
+    if (!facets.isEmpty())
+        html << "<dl class=\"facets\">\n"_html << facets << "</dl>\n"_html;
+    return html << "</li>\n"_html;
+}
+
+Html selection(const char* facet, std::string_view label, std::string_view any, const std::set<std::string>& values)
+{
+    Html html;
+    html << "<div><label for=\"filter-"_html << facet << "\">"_html << label << "</label>\n<select id=\"filter-"_html
+         << facet << "\" data-filter=\""_html << facet << "\"><option value=\"\">"_html << any << "</option>"_html;
+    for (const std::string& value : values)
+        html << "<option>"_html << value << "</option>"_html;
+    return html << "</select></div>\n"_html;
+}
+
+/// As people look for it: without regard to case.
+std::string orderOf(const SitePackage& package)
+{
+    const QString folded = QString::fromStdString(package.title).toCaseFolded();
+    return folded.toStdString() + '\0' + package.package.uuid();
+}
+
+} // namespace
+
+void IndexPage::add(const SitePackage& package, const std::string& link)
+{
+    m_entries.push_back({orderOf(package), cardOf(package, link)});
+    m_languages.merge(languagesOf(package));
+    m_robots.merge(robotsOf(package.package));
+    m_permissions.merge(permissionsOf(package.package));
+}
+
+Html IndexPage::header(const std::string& title) const
+{
+    Html html;
+    return html << "<header class=\"site-head\">\n<h1>"_html << title << "</h1>\n<p>"_html << count()
+                << (count() == 1 ? " package" : " packages") << "</p>\n</header>\n"_html;
+}
+
+Html IndexPage::content() const
+{
+    std::vector<const Entry*> sorted;
+    for (const Entry& entry : m_entries)
+        sorted.push_back(&entry);
+    std::stable_sort(sorted.begin(), sorted.end(), [](const Entry* a, const Entry* b) { return a->order < b->order; });
+
+    Html html;
+    // Shown by the script alone: without it nothing would happen.
+    html << "<form class=\"filters\" role=\"search\" aria-label=\"Packages\" hidden>\n"
+            "<div class=\"search\"><label for=\"search\">Search</label>\n"
+            "<input id=\"search\" type=\"search\" autocomplete=\"off\" spellcheck=\"false\"></div>\n"_html
+         << selection("language", "Language", "Any language", m_languages)
+         << selection("robot", "Robot", "Any robot", m_robots)
+         << selection("permission", "Permission", "Any permission", m_permissions)
+         << "<button type=\"reset\">Clear</button>\n</form>\n"
+            "<p class=\"result-count\" role=\"status\" aria-live=\"polite\"></p>\n<ul class=\"cards\">\n"_html;
+    for (const Entry* entry : sorted)
+        html << entry->card;
+    return html << "</ul>\n"_html;
+}
+
+} // namespace zu::cli

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <set>
+#include <string>
+
+namespace zu::cli {
+
+/// Gives the pages of packages the names of their files: of the letters of what identifies a package that are safe
+/// everywhere, and each name once, also where case does not count.
+class PageNames
+{
+public:
+    /// @return "org.example.hello.html"; with a number for what would have the name of an earlier page.
+    std::string next(const std::string& identifier);
+
+private:
+    std::set<std::string> m_taken;
+};
+
+} // namespace zu::cli

@@ -1,0 +1,120 @@
+#include "site/site_folder.hpp"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <set>
+#include <system_error>
+#include <unistd.h>
+
+namespace zu::cli {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* k_listName = ".zupackage-site";
+
+std::set<std::string> listedFiles(const fs::path& folder)
+{
+    std::set<std::string> names;
+    std::ifstream list(folder / k_listName);
+    for (std::string name; std::getline(list, name);)
+        names.insert(name);
+    if (!names.empty())
+        names.insert(k_listName);
+    return names;
+}
+
+/// The first file in the folder that no site has put there; empty when there is none.
+std::string foreignFile(const fs::path& folder)
+{
+    const std::set<std::string> ours = listedFiles(folder);
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
+        const bool isFolder = entry.is_directory() && !entry.is_symlink();
+        const std::string name = entry.path().lexically_relative(folder).generic_string();
+        // An empty folder of others goes unnoticed otherwise.
+        if (isFolder ? fs::is_empty(entry.path()) : ours.count(name) == 0)
+            return name;
+    }
+    return {};
+}
+
+/// A folder beside the other one, which a rename moves into its place.
+fs::path draftOf(const fs::path& path, const char* purpose)
+{
+    return path.parent_path() / ("." + path.filename().string() + "." + purpose + "-" + std::to_string(getpid()));
+}
+
+} // namespace
+
+SiteFolder::SiteFolder(const std::string& path)
+{
+    try {
+        // Of a symbolic link the folder that it leads to is replaced.
+        m_path = fs::weakly_canonical(fs::absolute(path));
+        if (m_path.filename().empty())
+            m_path = m_path.parent_path();
+        if (fs::exists(m_path) && !fs::is_directory(m_path))
+            throw SiteError(path + " is no folder");
+        if (const std::string foreign = fs::exists(m_path) ? foreignFile(m_path) : ""; !foreign.empty())
+            throw SiteError(path + " holds \"" + foreign +
+                            "\", which is of no site; choose a folder for the site alone");
+        fs::create_directories(m_path.parent_path());
+        const fs::path draft = draftOf(m_path, "new");
+        if (!fs::create_directory(draft))
+            throw SiteError(draft.string() + " is there already");
+        m_draft = draft;
+    } catch (const fs::filesystem_error& error) {
+        throw SiteError("cannot write " + path + ": " + error.code().message());
+    }
+}
+
+SiteFolder::~SiteFolder()
+{
+    std::error_code ignored;
+    if (!m_draft.empty())
+        fs::remove_all(m_draft, ignored);
+}
+
+void SiteFolder::add(const std::string& name, std::string_view content)
+{
+    const fs::path path = m_draft / name;
+    std::error_code error;
+    fs::create_directories(path.parent_path(), error);
+    std::FILE* const file = std::fopen(path.c_str(), "wb");
+    const bool isWritten = file && std::fwrite(content.data(), 1, content.size(), file) == content.size();
+    const bool isClosed = file && std::fclose(file) == 0;
+    if (!isWritten || !isClosed)
+        throw SiteError("cannot write " + (m_path / name).string() + ": " + std::strerror(errno));
+    m_names.push_back(name);
+}
+
+void SiteFolder::publish()
+{
+    std::string list;
+    for (const std::string& name : m_names)
+        list += name + "\n";
+    add(k_listName, list);
+    try {
+        const fs::path earlier = draftOf(m_path, "old");
+        const bool isReplaced = fs::exists(m_path);
+        if (isReplaced)
+            fs::rename(m_path, earlier);
+        std::error_code error;
+        fs::rename(m_draft, m_path, error);
+        if (error) {
+            if (isReplaced)
+                fs::rename(earlier, m_path);
+            throw fs::filesystem_error("rename", error);
+        }
+        m_draft.clear();
+        std::error_code ignored;
+        fs::remove_all(earlier, ignored);
+    } catch (const fs::filesystem_error& error) {
+        throw SiteError("cannot write " + m_path.string() + ": " + error.code().message());
+    }
+}
+
+} // namespace zu::cli
