@@ -98,6 +98,8 @@ struct SourceTree
 struct SourceTreeAccess
 {
     static const SourceTree& tree(const SourceDocument& document) { return *document.m_tree; }
+    /// Of a node that is not null.
+    static const SourceTree& tree(SourceNode node) { return *node.m_tree; }
 };
 
 } // namespace zu::authoring

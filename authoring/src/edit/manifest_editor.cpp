@@ -2,6 +2,7 @@
 
 #include <zupackage/authoring/manifest_editor.hpp>
 #include <zupackage/authoring/text_edit.hpp>
+#include <zupackage/package_info.hpp>
 
 namespace zu::authoring {
 
@@ -27,12 +28,18 @@ std::string written(const PackageInfo& package)
     return const_cast<PackageInfo&>(package).saveToManifestContent();
 }
 
-/// What the reader leaves of what was written.
-std::string rewritten(const std::string& manifest)
+/// What is left of a manifest that is read and written until it stays the same. First go texts that are empty, or that
+/// the reader drops, then the lists that have no others.
+std::string settled(std::string manifest)
 {
-    PackageInfo package;
-    readManifest(manifest, package);
-    return package.saveToManifestContent();
+    for (;;) {
+        PackageInfo package;
+        readManifest(manifest, package);
+        std::string next = package.saveToManifestContent();
+        if (next == manifest)
+            return next;
+        manifest = std::move(next);
+    }
 }
 
 /// The document with the edits that make it read as `target` does, which a writer has written.
@@ -65,7 +72,7 @@ void ManifestEditor::update(const PackageInfo& package)
         return;
     SourceDocument result = edited(m_document, SourceDocument::parse(wanted));
     std::shared_ptr<const PackageInfo> reading = readPackage(result);
-    if (const std::string reached = written(*reading); reached != wanted && reached != rewritten(wanted))
+    if (const std::string reached = written(*reading); reached != wanted && settled(reached) != settled(wanted))
         throw ManifestEditError("the document cannot be edited to read as the package", {});
     m_document = std::move(result);
     m_package = std::move(reading);

@@ -1,11 +1,16 @@
 #include "edit/package_edits.hpp"
 
+#include "edit/differ.hpp"
+
 namespace zupackage::edit {
 
-std::vector<zu::authoring::TextEdit> packageEdits(const zu::authoring::SourceDocument& /*document*/,
-                                                  const zu::authoring::SourceDocument& /*target*/)
+Edits packageEdits(const SourceDocument& document, const SourceDocument& target)
 {
-    return {};
+    Edits edits;
+    Differ(document, target)
+        .element(document.root(), target.root(), zu::authoring::Vocabulary::manifest().root(), edits);
+    sort(edits);
+    return edits;
 }
 
 } // namespace zupackage::edit

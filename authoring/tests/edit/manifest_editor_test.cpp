@@ -1,4 +1,5 @@
 #include <zupackage/authoring/manifest_editor.hpp>
+#include <zupackage/package_info.hpp>
 
 #include <gtest/gtest.h>
 

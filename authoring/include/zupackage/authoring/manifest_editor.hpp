@@ -3,11 +3,14 @@
 #include <zupackage/authoring/export.hpp>
 #include <zupackage/authoring/place.hpp>
 #include <zupackage/authoring/source_document.hpp>
-#include <zupackage/package_info.hpp>
 
 #include <memory>
 #include <stdexcept>
 #include <string>
+
+namespace zu {
+class PackageInfo; // of <zupackage/package_info.hpp>, in zu::package
+}
 
 namespace zu::authoring {
 
@@ -25,7 +28,8 @@ private:
     Place m_place;
 };
 
-/// Changes a manifest to read as another package, and leaves every byte alone that does not have to change.
+/// Changes a manifest to read as another package, and leaves every byte alone that does not have to change. To use it,
+/// include <zupackage/package_info.hpp> and link zu::package as well.
 ///
 /// A load and a save through PackageInfo alone loses comments, unknown elements and formatting. An editor keeps them:
 /// texts and attributes are replaced where they stand, in the quotes, the CDATA section and with the references that
@@ -55,9 +59,9 @@ public:
     /// Edits the document so that it reads as `package`: so that both would be written as the same text. One that does
     /// so already stays as it is, to the byte. The edited document is read again, and logged is what the reader logs.
     ///
-    /// Throws ManifestEditError when that cannot be reached by editing: because what is to change comes out of entities
-    /// of a document type, or because the result would exceed what the reader reads. Whatever is thrown, nothing has
-    /// changed.
+    /// Throws ManifestEditError when that cannot be reached by editing: what is to change comes out of entities of a
+    /// document type, the encoding lacks a character beyond the basic plane (the reader does not take references to
+    /// those), or the result would exceed what is read. Whatever is thrown, nothing has changed.
     void update(const PackageInfo& package);
 
 private:

@@ -164,6 +164,7 @@ public:
 private:
     friend class SourceAttribute;
     friend class SourceDocument;
+    friend struct SourceTreeAccess;
     SourceNode(const SourceTree* tree, std::uint32_t index) : m_tree(tree), m_index(index) {}
     friend bool operator==(SourceNode left, SourceNode right)
     {

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <zupackage/authoring/source_node.hpp>
+#include <zupackage/authoring/vocabulary.hpp>
+
+#include <string>
+#include <string_view>
+
+/// What the reader takes from the nodes of a document. It takes the white space in values as it stands, which strict
+/// parsers do not. All of it may be asked of null nodes, too.
+namespace zupackage::edit {
+
+using zu::authoring::ElementEntry;
+using zu::authoring::SourceAttribute;
+using zu::authoring::SourceNode;
+
+/// Whether the reader drops it as white space, which it does with loose texts, and with none in CDATA sections.
+bool isBlank(std::string_view text);
+
+/// Whether the reader takes a node in a list for an entry: all but white space is.
+bool counts(SourceNode node);
+
+/// The text of an element; empty of anything else.
+std::string readText(SourceNode node);
+
+/// The attribute of that name without a prefix; null when there is none.
+SourceAttribute attributeOf(SourceNode node, std::string_view name);
+
+/// What that says; empty when there is none.
+std::string readAttribute(SourceNode node, std::string_view name);
+
+/// What the reader makes of the elements of an entry that stand in one place.
+enum class Keeping
+{
+    Section,     ///< they are one, with the children of all
+    LastOne,     ///< the last one is the value
+    Presence,    ///< that one is there is the value
+    FirstOfKey,  ///< for each key the first one
+    LastOfKey,   ///< for each key the last one
+    Codes,       ///< a list in which each text stands once, where it stands first
+    TextsOfKeys, ///< for each key a list of texts
+    List         ///< all of them, in their order
+};
+
+Keeping keepingOf(const ElementEntry& entry);
+
+/// Whether its children say by their names alone what is in it: a list in which each name stands once.
+bool isListOfNames(const ElementEntry& entry);
+
+/// The attribute that is the key of an entry that has one; "." when that is its text.
+std::string_view keyName(const ElementEntry& entry);
+
+/// Whether a writer writes it: it leaves out what has no text, and of what needs all its attributes, what lacks one.
+bool isWritten(SourceNode node, const ElementEntry& entry);
+
+} // namespace zupackage::edit
