@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -51,11 +52,34 @@ public:
     /// An option without a value.
     void flag(bool& value, const char* name, const char* help);
 
-    /// Command lines that the help shows, each behind two blanks.
-    void examples(const char* lines);
-
 private:
     CLI::App& m_parser;
+};
+
+/// A command line that people may type, and what it does, as one clause: "Check all packages of a folder".
+struct Example
+{
+    const char* commandLine;
+    const char* purpose;
+};
+
+/// The examples of a command, which have static storage.
+class Examples
+{
+public:
+    constexpr Examples() = default;
+    template <std::size_t Count>
+    // NOLINTNEXTLINE(google-explicit-constructor): a command is a list of its parts
+    constexpr Examples(const Example (&examples)[Count]) : m_begin(examples), m_end(examples + Count)
+    {
+    }
+
+    constexpr const Example* begin() const { return m_begin; }
+    constexpr const Example* end() const { return m_end; }
+
+private:
+    const Example* m_begin = nullptr;
+    const Example* m_end = nullptr;
 };
 
 /// One subcommand of the program.
@@ -65,6 +89,7 @@ struct Command
     const char* summary;
     /// Adds what the command takes to `arguments`; the result runs the command once they are parsed.
     std::function<ExitCode()> (*prepare)(Arguments& arguments);
+    Examples examples = {};
 };
 
 } // namespace zu::cli

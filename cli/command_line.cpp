@@ -11,20 +11,135 @@
 #include "commands/set.hpp"
 #include "commands/show.hpp"
 #include "commands/site.hpp"
+#include "manual/program_definition.hpp"
 #include "output.hpp"
+#include "wrapped_text.hpp"
 
 #include <CLI/CLI.hpp>
 
 #include <iostream>
+#include <map>
+#include <sstream>
 
 namespace zu::cli {
 
 namespace {
 
-constexpr char k_exitCodes[] =
-    "Exit codes: 0 done; 1 findings, or differences; 2 wrong usage; 3 something could not be\n"
-    "read; 4 what was asked for is not there; 5 output could not be written. The worst one\n"
-    "wins, in the order 2, 5, 3, 4, 1.\n";
+constexpr ExitCodeDefinition k_exitCodes[] = {
+    {k_success, "done"},
+    {k_findings, "findings, or differences"},
+    {k_usage, "wrong usage"},
+    {k_inputFailed, "something could not be read"},
+    {k_absent, "what was asked for is not there"},
+    {k_outputFailed, "output could not be written"},
+};
+
+std::string footerOf(const Examples& examples)
+{
+    std::string text;
+    for (const Example& example : examples)
+        text.append(text.empty() ? "Examples:\n" : "")
+            .append("  ")
+            .append(example.commandLine)
+            .append("\n      ")
+            .append(example.purpose)
+            .append("\n");
+    std::string codes;
+    for (const ExitCodeDefinition& definition : k_exitCodes)
+        codes.append(codes.empty() ? "Exit codes: " : "; ")
+            .append(std::to_string(definition.code))
+            .append(" ")
+            .append(definition.meaning);
+    return (text.empty() ? text : text + "\n") +
+           wrapped(codes + ". The worst one wins, in the order 2, 5, 3, 4, 1.", 88);
+}
+
+/// All but `help`, which knows the others.
+std::vector<Command> commands()
+{
+    return {k_add, k_check, k_diff, k_get, k_languages, k_new, k_remove, k_set, k_show, k_site};
+}
+
+constexpr Example k_helpExamples[] = {{"zupackage help check", "Explain the command check and its options"}};
+
+/// The parser, and what it found once it has parsed.
+struct CommandLine
+{
+    CLI::App app{"Works with the packages of the robot middleware.", "zupackage"};
+    std::string explained; ///< the command that `help` is to explain
+    ExitCode result = k_success;
+};
+
+/// `zupackage help COMMAND` is `zupackage COMMAND --help`.
+ExitCode printHelp(const CommandLine& line)
+{
+    return writeOutput(line.explained.empty()
+                           ? line.app.get_formatter()->make_help(&line.app, "zupackage", CLI::AppFormatMode::Normal)
+                           : line.app.get_subcommand(line.explained)->help("zupackage"))
+               ? k_success
+               : k_outputFailed;
+}
+
+void addHelp(CommandLine& line)
+{
+    CLI::App* const help = line.app.add_subcommand("help", "Explain a command");
+    std::vector<std::string> names;
+    for (const CLI::App* command : line.app.get_subcommands({}))
+        names.push_back(command->get_name());
+    help->footer([] { return footerOf(k_helpExamples); });
+    help->add_option("COMMAND", line.explained, "The command to explain; without one, all in short")
+        ->check(CLI::IsMember(names))
+        ->type_name("COMMAND");
+    help->callback([&line] { line.result = printHelp(line); });
+}
+
+void addCommands(CommandLine& line)
+{
+    line.app.set_version_flag("--version", "zupackage " ZUPACKAGE_VERSION, "Print the version and exit");
+    line.app.require_subcommand(1);
+    for (const Command& command : commands()) {
+        CLI::App* const subcommand = line.app.add_subcommand(command.name, command.summary);
+        subcommand->footer([examples = command.examples] { return footerOf(examples); });
+        Arguments arguments(*subcommand);
+        subcommand->callback([&line, run = command.prepare(arguments)] { line.result = run(); });
+    }
+    addHelp(line);
+    line.app.footer([] { return footerOf({}); });
+}
+
+/// The values in "WHICH:{text,json}", which is how the parser shows a value that is one of several.
+std::vector<std::string> choicesIn(const std::string& typeName)
+{
+    std::vector<std::string> choices;
+    const std::size_t open = typeName.find(":{");
+    if (open == std::string::npos)
+        return choices;
+    std::istringstream list(typeName.substr(open + 2, typeName.rfind('}') - open - 2));
+    for (std::string choice; std::getline(list, choice, ',');)
+        choices.push_back(choice);
+    return choices;
+}
+
+std::vector<OptionDefinition> optionsOf(const CLI::App& app)
+{
+    std::vector<OptionDefinition> options;
+    for (const CLI::Option* option : app.get_options()) {
+        OptionDefinition definition;
+        for (const std::string& name : option->get_snames())
+            definition.names.push_back("-" + name);
+        for (const std::string& name : option->get_lnames())
+            definition.names.push_back("--" + name);
+        const bool hasValue = option->get_items_expected_max() > 0;
+        const std::string typeName = option->get_type_name();
+        definition.value = hasValue ? typeName.substr(0, typeName.find(":{")) : "";
+        definition.choices = choicesIn(typeName);
+        definition.help = option->get_description();
+        definition.isRequired = option->get_required();
+        definition.isRepeated = option->get_items_expected_max() > 1;
+        options.push_back(std::move(definition));
+    }
+    return options;
+}
 
 } // namespace
 
@@ -61,11 +176,6 @@ void Arguments::choice(std::string& value, const char* name, const std::vector<s
 
 void Arguments::flag(bool& value, const char* name, const char* help) { m_parser.add_flag(name, value, help); }
 
-void Arguments::examples(const char* lines)
-{
-    m_parser.footer(std::string("Examples:\n") + lines + "\n" + k_exitCodes);
-}
-
 ExitCode worse(ExitCode left, ExitCode right)
 {
     for (const ExitCode code : {k_usage, k_outputFailed, k_inputFailed, k_absent, k_findings}) {
@@ -75,28 +185,36 @@ ExitCode worse(ExitCode left, ExitCode right)
     return k_success;
 }
 
+ProgramDefinition programDefinition()
+{
+    CommandLine line;
+    ProgramDefinition program = {line.app.get_name(), line.app.get_description(), ZUPACKAGE_VERSION, {}, {}, {}};
+    std::map<std::string, Examples> examples = {{"help", k_helpExamples}};
+    for (const Command& command : commands())
+        examples[command.name] = command.examples;
+    addCommands(line);
+    program.options = optionsOf(line.app);
+    for (const CLI::App* command : line.app.get_subcommands({})) {
+        const Examples& rows = examples[command->get_name()];
+        program.commands.push_back(
+            {command->get_name(), command->get_description(), optionsOf(*command), {rows.begin(), rows.end()}});
+    }
+    program.exitCodes.assign(std::begin(k_exitCodes), std::end(k_exitCodes));
+    return program;
+}
+
 ExitCode runCommandLine(int argc, char** argv)
 {
-    CLI::App app("Works with the packages of the robot middleware.", "zupackage");
-    app.set_version_flag("--version", "zupackage " ZUPACKAGE_VERSION);
-    app.require_subcommand(1);
-    ExitCode result = k_success;
-    for (const Command& command :
-         {k_add, k_check, k_diff, k_get, k_languages, k_new, k_remove, k_set, k_show, k_site}) {
-        CLI::App* subcommand = app.add_subcommand(command.name, command.summary);
-        subcommand->footer(k_exitCodes);
-        Arguments arguments(*subcommand);
-        subcommand->callback([&result, runCommand = command.prepare(arguments)] { result = runCommand(); });
-    }
-    app.footer(k_exitCodes);
+    CommandLine line;
+    addCommands(line);
     try {
-        app.parse(argc, argv);
+        line.app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        if (app.exit(error) != 0)
+        if (line.app.exit(error) != 0)
             return k_usage;
         return std::cout.flush() ? k_success : outputFailed();
     }
-    return result;
+    return line.result;
 }
 
 } // namespace zu::cli

@@ -29,13 +29,16 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     arguments.require(parsed->path, "PATH", "PATH", "The entry to append to its list, such as services/service");
     arguments.accept(parsed->parts, "PART", "PATH=TEXT",
                      "What stands in it: @attribute=text, child=text, .=text for a text of its own");
-    arguments.examples("  zupackage add manifest.xml services/service @name=clock @execStart=bin/clock\n"
-                       "  zupackage add manifest.xml supportedLanguages/language .=fr\n");
     return [parsed] { return add(*parsed); };
 }
 
+constexpr Example k_examples[] = {
+    {"zupackage add manifest.xml services/service @name=clock @execStart=bin/clock", "Append a service"},
+    {"zupackage add manifest.xml supportedLanguages/language .=fr", "Append a language"},
+};
+
 } // namespace
 
-const Command k_add = {"add", "Append an entry to a list of a manifest", prepare};
+const Command k_add = {"add", "Append an entry to a list of a manifest", prepare, k_examples};
 
 } // namespace zu::cli

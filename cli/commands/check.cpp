@@ -180,8 +180,15 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return check(*parsed); };
 }
 
+constexpr Example k_examples[] = {
+    {"zupackage check examples/packages", "Check all packages below a folder"},
+    {"zupackage check --explain counted-node", "Explain a rule"},
+    {"zupackage check --fix-dry-run hello", "Show what would be fixed"},
+    {"zupackage check --format sarif . > findings.sarif", "Write a report for code scanning"},
+};
+
 } // namespace
 
-const Command k_check = {"check", "Find what readers of manifests silently accept", prepare};
+const Command k_check = {"check", "Find what readers of manifests silently accept", prepare, k_examples};
 
 } // namespace zu::cli

@@ -144,8 +144,14 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return parsed->isForGit ? diffForGit(*parsed) : diffOfFiles(*parsed); };
 }
 
+constexpr Example k_examples[] = {
+    {"zupackage diff story-teller-1.0 story-teller", "Compare the packages in two folders"},
+    {"git show HEAD:manifest.xml | zupackage diff - manifest.xml", "Compare with what was committed"},
+    {"git -c diff.external='zupackage diff --git' diff", "Have git show what makes one package another"},
+};
+
 } // namespace
 
-const Command k_diff = {"diff", "Tell what makes one package another", prepare};
+const Command k_diff = {"diff", "Tell what makes one package another", prepare, k_examples};
 
 } // namespace zu::cli

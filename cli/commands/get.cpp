@@ -63,13 +63,17 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     arguments.require(parsed->paths, "PATH", "PATH", "What to print, such as @version or names/name[@lang='fr']");
     arguments.flag(parsed->asJson, "--json", "Print one JSON array of texts");
     arguments.flag(parsed->endsWithZero, "-0,--null", "End each text with a zero byte instead of a line end");
-    arguments.examples("  zupackage get manifest.xml @version\n"
-                       "  zupackage get my-package \"names/name[@lang='fr']\" \"contents/*/@path\"\n");
     return [parsed] { return get(*parsed); };
 }
 
+constexpr Example k_examples[] = {
+    {"zupackage get manifest.xml @version", "Print the version"},
+    {"zupackage get my-package \"names/name[@lang='fr']\" \"contents/*/@path\"",
+     "Print the French name, and the paths of all contents"},
+};
+
 } // namespace
 
-const Command k_get = {"get", "Print texts of a manifest", prepare};
+const Command k_get = {"get", "Print texts of a manifest", prepare, k_examples};
 
 } // namespace zu::cli

@@ -122,8 +122,14 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return languages(*parsed); };
 }
 
+constexpr Example k_examples[] = {
+    {"zupackage languages examples/packages", "Show the languages of all packages below a folder"},
+    {"zupackage languages --require en,fr hello", "Fail when a text is missing in one of two languages"},
+    {"zupackage languages --format csv . > languages.csv", "Write a table for a spreadsheet"},
+};
+
 } // namespace
 
-const Command k_languages = {"languages", "Show which texts are there in which languages", prepare};
+const Command k_languages = {"languages", "Show which texts are there in which languages", prepare, k_examples};
 
 } // namespace zu::cli

@@ -125,8 +125,13 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return makePackages(*parsed); };
 }
 
+constexpr Example k_examples[] = {
+    {"zupackage new hello", "Make a package with one behavior, in English, in the folder hello"},
+    {"zupackage new chat --kind dialog --language en --language fr", "Make one for a dialog in two languages"},
+};
+
 } // namespace
 
-const Command k_new = {"new", "Make the skeleton of a package", prepare};
+const Command k_new = {"new", "Make the skeleton of a package", prepare, k_examples};
 
 } // namespace zu::cli

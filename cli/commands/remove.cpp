@@ -31,12 +31,15 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     auto parsed = std::make_shared<RemoveArguments>();
     acceptEditArguments(*parsed, arguments);
     arguments.require(parsed->paths, "PATH", "PATH", "What to take away; all that a path leads to");
-    arguments.examples("  zupackage remove manifest.xml \"names/name[@lang='fr']\" @channel\n");
     return [parsed] { return remove(*parsed); };
 }
 
+constexpr Example k_examples[] = {
+    {"zupackage remove manifest.xml \"names/name[@lang='fr']\" @channel", "Take the French name and the channel away"},
+};
+
 } // namespace
 
-const Command k_remove = {"remove", "Take elements or attributes out of a manifest", prepare};
+const Command k_remove = {"remove", "Take elements or attributes out of a manifest", prepare, k_examples};
 
 } // namespace zu::cli

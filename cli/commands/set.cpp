@@ -27,13 +27,17 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     arguments.require(parsed->assignments, "PATH=TEXT", "PATH=TEXT",
                       "What is to have which text. The path ends at the first = outside of brackets. What is missing "
                       "is made");
-    arguments.examples("  zupackage set manifest.xml @version=2.1.0\n"
-                       "  zupackage set my-package \"names/name[@lang='fr']=L'heure du conte\" --dry-run\n");
     return [parsed] { return set(*parsed); };
 }
 
+constexpr Example k_examples[] = {
+    {"zupackage set manifest.xml @version=2.1.0", "Change the version"},
+    {"zupackage set my-package \"names/name[@lang='fr']=L'heure du conte\" --dry-run",
+     "Show what changing the French name would do"},
+};
+
 } // namespace
 
-const Command k_set = {"set", "Change texts of a manifest, and nothing else in it", prepare};
+const Command k_set = {"set", "Change texts of a manifest, and nothing else in it", prepare, k_examples};
 
 } // namespace zu::cli

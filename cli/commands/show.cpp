@@ -41,8 +41,14 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [sources] { return show(*sources); };
 }
 
+constexpr Example k_examples[] = {
+    {"zupackage show examples/packages/story-teller", "Print the package in a folder"},
+    {"zupackage show examples/packages/*", "Print several"},
+    {"curl -s https://example.org/manifest.xml | zupackage show -", "Print what comes through a pipe"},
+};
+
 } // namespace
 
-const Command k_show = {"show", "Print manifests as readable text", prepare};
+const Command k_show = {"show", "Print manifests as readable text", prepare, k_examples};
 
 } // namespace zu::cli

@@ -85,8 +85,13 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return makeSite(*parsed); };
 }
 
+constexpr Example k_examples[] = {
+    {"zupackage site examples/packages --output site", "Make pages of all packages below a folder"},
+    {"zupackage site story-teller --single story-teller.html", "Make one page of one package"},
+};
+
 } // namespace
 
-const Command k_site = {"site", "Make a site of packages, as static pages", prepare};
+const Command k_site = {"site", "Make a site of packages, as static pages", prepare, k_examples};
 
 } // namespace zu::cli

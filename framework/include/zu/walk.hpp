@@ -26,8 +26,8 @@ inline constexpr std::size_t k_maxRepeatedParts = 100'000;
 ///     }
 ///
 /// The parts of a list, of variable arguments, a map or a tuple lie a level below it. What a dynamic or an optional
-/// holds, or a pointer points to, lies on the same level, unless that is a dynamic or an optional itself. Levels beyond k_maxNesting are
-/// refused.
+/// holds, or a pointer points to, lies on the same level, unless that is a dynamic or an optional itself. Levels beyond
+/// k_maxNesting are refused.
 class Walk
 {
 public:

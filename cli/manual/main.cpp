@@ -1,0 +1,34 @@
+// Writes the manual pages, the completion of shells and the reference of manifests into a folder.
+#include "manual/completion.hpp"
+#include "manual/man_page.hpp"
+#include "manual/manifest_reference.hpp"
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+
+int main(int argc, char** argv)
+{
+    using namespace zu::cli;
+    namespace fs = std::filesystem;
+    if (argc != 2) {
+        std::fputs("usage: zupackage_manual FOLDER\n", stderr);
+        return 2;
+    }
+    const fs::path folder = argv[1];
+    bool isWritten = true;
+    const auto write = [&](const fs::path& path, const std::string& text) {
+        fs::create_directories((folder / path).parent_path());
+        isWritten = isWritten && (std::ofstream(folder / path) << text).flush();
+    };
+    const ProgramDefinition program = programDefinition();
+    write("man/man1/zupackage.1", programPage(program));
+    for (const CommandDefinition& command : program.commands)
+        write("man/man1/zupackage-" + command.name + ".1", commandPage(program, command));
+    write("man/man5/zupackage-manifest.5", manifestPage(program.version));
+    write("bash-completion/completions/zupackage", bashCompletion(program));
+    write("zsh/vendor-completions/_zupackage", zshCompletion(program));
+    write("fish/vendor_completions.d/zupackage.fish", fishCompletion(program));
+    write("manifest.md", manifestReferenceInMarkdown());
+    return isWritten ? 0 : 1;
+}
