@@ -4,6 +4,7 @@
 #include "commands/add.hpp"
 #include "commands/check.hpp"
 #include "commands/diff.hpp"
+#include "commands/format.hpp"
 #include "commands/get.hpp"
 #include "commands/languages.hpp"
 #include "commands/new.hpp"
@@ -57,7 +58,7 @@ std::string footerOf(const Examples& examples)
 /// All but `help`, which knows the others.
 std::vector<Command> commands()
 {
-    return {k_add, k_check, k_diff, k_get, k_languages, k_new, k_remove, k_set, k_show, k_site};
+    return {k_add, k_check, k_diff, k_format, k_get, k_languages, k_new, k_remove, k_set, k_show, k_site};
 }
 
 constexpr Example k_helpExamples[] = {{"zupackage help check", "Explain the command check and its options"}};

@@ -132,9 +132,9 @@ const VocabularyRow k_vocabularyRows[] = {
 
     element(1, "services", Occurrence::Optional, ValueKind::None, "The programs that run beside the behaviors."),
     element(2, "service", Occurrence::Repeated, ValueKind::None, "One program.", "name"),
+    attribute("autorun", ValueKind::Flag, "Whether it starts with the robot."),
     required("name", ValueKind::Identifier, "What the service is called."),
     required("execStart", ValueKind::Command, "The command line that starts it."),
-    attribute("autorun", ValueKind::Flag, "Whether it starts with the robot."),
     element(3, "envVar", Occurrence::Repeated, ValueKind::None, "A variable of its environment.", "name"),
     required("name", ValueKind::Identifier, "The name of the variable."),
     attribute("value", ValueKind::Text, "The value of the variable."),

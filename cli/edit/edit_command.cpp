@@ -27,22 +27,30 @@ void acceptEditArguments(EditArguments& parsed, Arguments& arguments)
     arguments.flag(parsed.isDryRun, "--dry-run", "Show the difference, and leave the file as it is");
 }
 
-std::optional<SourceDocument> documentOf(const std::string& source)
+std::optional<SourceDocument> documentOf(const std::string& source, std::string& failure)
 {
     const std::string path = manifestPath(source);
     std::string bytes;
-    std::string failure;
     if (!readManifestBytes(path, bytes, failure)) {
-        complain("cannot read " + shownName(path) + ": " + failure);
+        failure = "cannot read " + shownName(path) + ": " + failure;
         return std::nullopt;
     }
     SourceDocument document = SourceDocument::parse(std::move(bytes));
     if (document.isWellFormed())
         return document;
     const authoring::SyntaxError& error = document.errors().front();
-    complain(shownName(path) + ":" + std::to_string(error.place.line) + ":" + std::to_string(error.place.column) +
-             ": " + error.message);
+    failure = shownName(path) + ":" + std::to_string(error.place.line) + ":" + std::to_string(error.place.column) +
+              ": " + error.message;
     return std::nullopt;
+}
+
+std::optional<SourceDocument> documentOf(const std::string& source)
+{
+    std::string failure;
+    std::optional<SourceDocument> document = documentOf(source, failure);
+    if (!document)
+        complain(failure);
+    return document;
 }
 
 ExitCode editManifest(const EditArguments& arguments, const std::vector<authoring::PathEdit>& edits)

@@ -21,7 +21,11 @@ struct EditArguments
 void acceptEditArguments(EditArguments& parsed, Arguments& arguments);
 
 /// The document that a source holds.
-/// @return nothing when it cannot be read or is not well-formed, which standard error tells then.
+/// @param failure receives why there is none, with the place.
+/// @return nothing when it cannot be read or is not well-formed.
+std::optional<authoring::SourceDocument> documentOf(const std::string& source, std::string& failure);
+
+/// The same; standard error tells why there is none.
 std::optional<authoring::SourceDocument> documentOf(const std::string& source);
 
 /// Makes all of the edits or none, in the file, or from standard input to standard output.

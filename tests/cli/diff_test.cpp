@@ -89,7 +89,7 @@ TEST_F(DiffCommand, NoTextSteersTheTerminal)
     EXPECT_EQ(result.output, "added    names/name[@lang='\xEF\xBF\xBD']: \"\xEF\xBF\xBD"
                              "2J\xEF\xBF\xBD\\n\"\n"
                              "added    services/service[@name='s']\n"
-                             "         + <service name=\"s\" execStart=\"\xEF\xBF\xBD\" autorun=\"false\"/>\n");
+                             "         + <service autorun=\"false\" name=\"s\" execStart=\"\xEF\xBF\xBD\"/>\n");
 }
 
 TEST_F(DiffCommand, SaysWhenTheFormattingAloneDiffers)

@@ -55,8 +55,8 @@ struct ElementEntry
     std::string_view identity;
     /// The reader takes every child, of whatever name and kind, for an entry.
     bool countsEveryChild;
-    std::string_view purpose; ///< what it is for, as one sentence
-    std::vector<AttributeEntry> attributes;
+    std::string_view purpose;               ///< what it is for, as one sentence
+    std::vector<AttributeEntry> attributes; ///< in the order in which manifests are written
     std::vector<const ElementEntry*> children;
 
     /// @return the attribute of that name; null when the element has none.
