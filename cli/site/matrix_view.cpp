@@ -119,7 +119,7 @@ Html matrixSection(const SitePackage& package, const PagePlace& place)
     if (matrix.languages.empty())
         return html;
     html << sectionStart("matrix", "Languages", place)
-         << "<div class=\"scroll\" role=\"region\" tabindex=\"0\" aria-labelledby=\""_html << place.idPrefix
+         << "<div class=\"scroll\" role=\"group\" tabindex=\"0\" aria-labelledby=\""_html << place.idPrefix
          << "matrix\">\n"_html << MatrixTable(matrix).html() << "</div>\n"_html;
     const std::size_t shown = std::min(matrix.languages.size(), k_mostColumns);
     const std::size_t left = matrix.languages.size() - shown + matrix.omittedLanguages;

@@ -73,8 +73,12 @@ Html sectionStart(const char* id, std::string_view name, const PagePlace& place)
     const std::size_t level = place.headingLevel + 1;
     const std::string wholeId = place.idPrefix + id;
     Html html;
-    return html << "<section aria-labelledby=\""_html << wholeId << "\">\n<h"_html << level << " id=\""_html << wholeId
-                << "\" tabindex=\"-1\">"_html << name << "</h"_html << level << ">\n"_html;
+    html << "<section"_html;
+    // Among many packages the sections of all would have the same names to those who go from one to the next.
+    if (place.idPrefix.empty())
+        html << " aria-labelledby=\""_html << wholeId << "\""_html;
+    return html << ">\n<h"_html << level << " id=\""_html << wholeId << "\">"_html << name << "</h"_html << level
+                << ">\n"_html;
 }
 
 Html fact(std::string_view name, std::string_view value)

@@ -15,7 +15,7 @@ std::string rangeOf(const std::string& least, const std::string& most)
 Html tableStart(std::string_view caption, std::initializer_list<std::string_view> columns)
 {
     Html html;
-    html << "<div class=\"scroll\" role=\"region\" tabindex=\"0\" aria-label=\""_html << caption
+    html << "<div class=\"scroll\" role=\"group\" tabindex=\"0\" aria-label=\""_html << caption
          << "\">\n<table>\n<caption>"_html << caption << "</caption>\n<thead><tr>"_html;
     for (const std::string_view column : columns)
         html << "<th scope=\"col\">"_html << column << "</th>"_html;

@@ -26,7 +26,8 @@
     count.textContent = `${shown} of ${packages.length} packages`;
   };
 
-  form.addEventListener("input", show);
+  for (const event of ["input", "change"])
+    form.addEventListener(event, show);
   form.addEventListener("submit", (event) => event.preventDefault());
   // The fields are empty only after the event.
   form.addEventListener("reset", () => setTimeout(show));
