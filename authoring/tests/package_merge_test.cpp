@@ -215,4 +215,41 @@ TEST(ManifestMerge, SaysWhenTheyChangedWhatIsNoPartOfThePackage)
     EXPECT_FALSE(mergeManifests(base, "<p><!-- b --></p>", "<p><!-- b --></p>").leavesTextBehind);
 }
 
+TEST(ManifestMerge, ABaseWithoutBytesIsAnEmptyPackage)
+{
+    EXPECT_THAT(linesOf(mergeManifests("", "<p version='1'/>", "<p version='2'/>").conflicts),
+                ElementsAre("@version:  | 1 | 2"));
+}
+
+TEST(ManifestMerge, TheirChangesAreMadeInOurText)
+{
+    const std::string base = "<package version=\"1\"><names><name lang=\"en\">A</name></names></package>";
+    const ManifestMerge merged = mergeManifests(
+        base,
+        "<package version = '1'>\n  <!-- names -->\n  <names>\n    <name lang='de'/>\n"
+        "    <name lang='en'>A</name>\n  </names>\n</package>",
+        "<package version=\"2\"><names><name lang=\"en\">A</name><name lang=\"fr\">B &amp; C</name></names></package>");
+    EXPECT_THAT(merged.conflicts, IsEmpty());
+    EXPECT_EQ(merged.ours,
+              "<package version = '2'>\n  <!-- names -->\n  <names>\n    <name lang='de'/>\n"
+              "    <name lang='en'>A</name>\n    <name lang=\"fr\">B &amp; C</name>\n  </names>\n</package>");
+}
+
+TEST(ManifestMerge, EmptyTextsOfOursStay)
+{
+    const std::string ours = "<p version='1'><names><name lang='de'/></names><contents><behaviorContent path='b'><tags>"
+                             "<tag lang='en'></tag></tags></behaviorContent></contents></p>";
+    EXPECT_EQ(mergeManifests("<p version='1'/>", ours, "<p version='2'/>").ours,
+              std::string(ours).replace(ours.find('1'), 1, "2"));
+}
+
+TEST(ManifestMerge, TheTextsOfBothSidesDifferInTheConflictAlone)
+{
+    const std::string ours = "<p  author='A' version='2'>\n</p>";
+    const ManifestMerge merged = mergeManifests("<p version='1'/>", ours, "<p version='3' uuid='u'/>");
+    EXPECT_THAT(linesOf(merged.conflicts), ElementsAre("@version: 1 | 2 | 3"));
+    EXPECT_EQ(std::string(merged.ours).replace(merged.ours.find('2'), 1, "3"), merged.theirs);
+    EXPECT_NE(merged.ours.find("uuid='u'"), std::string::npos);
+}
+
 } // namespace zu::authoring

@@ -147,7 +147,8 @@ std::function<ExitCode()> prepare(Arguments& arguments)
 constexpr Example k_examples[] = {
     {"zupackage diff story-teller-1.0 story-teller", "Compare the packages in two folders"},
     {"git show HEAD:manifest.xml | zupackage diff - manifest.xml", "Compare with what was committed"},
-    {"git -c diff.external='zupackage diff --git' diff", "Have git show what makes one package another"},
+    {"git config diff.zupackage.command 'zupackage diff --git'",
+     "Have git compare the files that have the attribute diff=zupackage so"},
 };
 
 } // namespace

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "command.hpp"
+
+namespace zu::cli {
+
+extern const Command k_merge;
+
+} // namespace zu::cli

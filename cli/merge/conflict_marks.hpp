@@ -1,0 +1,23 @@
+#pragma once
+
+#include <zupackage/authoring/source_document.hpp>
+
+#include <cstddef>
+#include <string>
+
+namespace zu::cli {
+
+/// How conflicts are marked.
+struct ConflictMarks
+{
+    std::size_t size = 7; ///< of each mark, in characters
+    std::string oursLabel;
+    std::string theirsLabel;
+};
+
+/// The bytes of `ours` where each run of lines that is another one in `theirs` stands between marks, with that one
+/// behind it. The marks have the line ends and the encoding of the document.
+std::string withConflictMarks(const authoring::SourceDocument& ours, const authoring::SourceDocument& theirs,
+                              const ConflictMarks& marks);
+
+} // namespace zu::cli

@@ -1,0 +1,104 @@
+#include "support/git_repository.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace zu {
+
+using test::GitRepository;
+using test::ProgramResult;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+const std::string k_manifest = "<?xml version='1.0'?>\n"
+                               "<package uuid=\"u\" version=\"1.0\">\n"
+                               "  <!-- for people -->\n"
+                               "  <names>\n"
+                               "    <name lang=\"en\">Wave</name>\n"
+                               "  </names>\n"
+                               "</package>\n";
+
+std::string replaced(std::string text, const std::string& old, const std::string& now)
+{
+    return text.replace(text.find(old), old.size(), now);
+}
+
+std::string withName(const std::string& lang, const std::string& name)
+{
+    return replaced(k_manifest, "  </names>", "    <name lang=\"" + lang + "\">" + name + "</name>\n  </names>");
+}
+
+class GitMerge : public testing::Test
+{
+protected:
+    GitMerge()
+    {
+        repository.commit(".gitattributes", "manifest.xml merge=zupackage\n");
+        repository.commit("manifest.xml", k_manifest);
+        repository.run(
+            {"config", "merge.zupackage.driver", "'" ZUPACKAGE_PROGRAM "' merge %O %A %B -o %A --marker-size %L"});
+        repository.run({"branch", "theirs"});
+    }
+
+    /// Merges two branches that begin with the manifest.
+    ProgramResult merge(const std::string& ours, const std::string& theirs) const
+    {
+        repository.commit("manifest.xml", ours);
+        repository.run({"checkout", "--quiet", "theirs"});
+        repository.commit("manifest.xml", theirs);
+        repository.run({"checkout", "--quiet", "main"});
+        return repository.git({"merge", "--quiet", "--no-edit", "theirs"});
+    }
+
+    std::string content() const { return test::readFile(repository.path("manifest.xml")); }
+
+    GitRepository repository;
+};
+
+} // namespace
+
+TEST_F(GitMerge, BranchesThatAddLanguagesMeetWithoutAConflict)
+{
+    const ProgramResult result = merge(withName("fr", "Saluer"), withName("de", "Winken"));
+    EXPECT_EQ(result.exitCode, 0) << result.output << result.errors;
+    EXPECT_THAT(result.errors, IsEmpty());
+    EXPECT_EQ(content(),
+              replaced(withName("fr", "Saluer"), "  </names>", "    <name lang=\"de\">Winken</name>\n  </names>"));
+}
+
+TEST_F(GitMerge, ATextThatBothChangedIsLeftWithMarks)
+{
+    const ProgramResult result = merge(replaced(k_manifest, "Wave", "Wave hello"), replaced(k_manifest, "Wave", "Hi"));
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.errors, HasSubstr("zupackage: both sides changed names/name[@lang='en']\n"));
+    EXPECT_EQ(content(), replaced(k_manifest, "    <name lang=\"en\">Wave</name>\n",
+                                  "<<<<<<< ours\n    <name lang=\"en\">Wave hello</name>\n"
+                                  "=======\n    <name lang=\"en\">Hi</name>\n>>>>>>> theirs\n"));
+    EXPECT_EQ(repository.run({"diff", "--name-only", "--diff-filter=U"}), "manifest.xml\n");
+}
+
+TEST_F(GitMerge, ManifestsThatBothAddedAreMerged)
+{
+    std::filesystem::create_directory(repository.path("new"));
+    const auto commitNew = [this](const std::string& manifest) { repository.commit("new/manifest.xml", manifest); };
+    commitNew(withName("fr", "Saluer"));
+    repository.run({"checkout", "--quiet", "theirs"});
+    std::filesystem::create_directory(repository.path("new"));
+    commitNew(withName("de", "Winken"));
+    repository.run({"checkout", "--quiet", "main"});
+    const ProgramResult result = repository.git({"merge", "--quiet", "--no-edit", "theirs"});
+    EXPECT_EQ(result.exitCode, 0) << result.output << result.errors;
+    EXPECT_THAT(test::readFile(repository.path("new/manifest.xml")), HasSubstr("Saluer"));
+    EXPECT_THAT(test::readFile(repository.path("new/manifest.xml")), HasSubstr("Winken"));
+}
+
+TEST_F(GitMerge, WhatCannotBeReadIsLeftAsOurs)
+{
+    const std::string ours = withName("fr", "Saluer");
+    EXPECT_EQ(merge(ours, "<package>").exitCode, 1);
+    EXPECT_EQ(content(), ours);
+}
+
+} // namespace zu

@@ -1,0 +1,145 @@
+#include "support/files.hpp"
+#include "support/program.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace zu {
+
+using test::ProgramResult;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+const std::string k_base = "<package version=\"1\">\r\n"
+                           "  <!-- kept -->\r\n"
+                           "  <names>\r\n"
+                           "    <name lang=\"en\">A</name>\r\n"
+                           "  </names>\r\n"
+                           "</package>\r\n";
+
+std::string replaced(std::string text, const std::string& old, const std::string& now)
+{
+    return text.replace(text.find(old), old.size(), now);
+}
+
+class MergeCommand : public testing::Test
+{
+protected:
+    ProgramResult merge(const std::string& base, const std::string& ours, const std::string& theirs,
+                        std::vector<std::string> options = {}, const test::ProgramSetting& setting = {}) const
+    {
+        options.insert(options.begin(), {"merge", folder.file("base.xml", base), folder.file("ours.xml", ours),
+                                         folder.file("theirs.xml", theirs)});
+        return test::runProgram(ZUPACKAGE_PROGRAM, options, setting);
+    }
+
+    std::string file(const std::string& name) const { return (folder.path() / name).string(); }
+
+    test::TemporaryFolder folder;
+};
+
+} // namespace
+
+TEST_F(MergeCommand, WritesOursWithTheirChanges)
+{
+    const ProgramResult result = merge(k_base, replaced(k_base, "<name lang=\"en\">A", "<name  lang='en' >B"),
+                                       replaced(k_base, "version=\"1\"", "version=\"2\""));
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.output,
+              replaced(replaced(k_base, "<name lang=\"en\">A", "<name  lang='en' >B"), "\"1\"", "\"2\""));
+    EXPECT_THAT(result.errors, IsEmpty());
+}
+
+TEST_F(MergeCommand, WritesToAFileThatMayBeOurs)
+{
+    const std::string theirs = replaced(k_base, "version=\"1\"", "version=\"2\"");
+    EXPECT_EQ(merge(k_base, k_base, theirs, {"-o", file("ours.xml")}).exitCode, 0);
+    EXPECT_EQ(test::readFile(file("ours.xml")), theirs);
+    EXPECT_EQ(merge(k_base, k_base, theirs, {"--output", file("new.xml")}).exitCode, 0);
+    EXPECT_EQ(test::readFile(file("new.xml")), theirs);
+}
+
+TEST_F(MergeCommand, ConflictsAreMarkedInTheLinesOfTheEntry)
+{
+    const ProgramResult result = merge(k_base, replaced(k_base, ">A<", ">B<"), replaced(k_base, ">A<", ">C<"),
+                                       {"--marker-size", "3", "-L", "mine", "-L", "yours"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.output, replaced(k_base, "    <name lang=\"en\">A</name>\r\n",
+                                      "<<< mine\r\n    <name lang=\"en\">B</name>\r\n"
+                                      "===\r\n    <name lang=\"en\">C</name>\r\n>>> yours\r\n"));
+    EXPECT_EQ(result.errors, "zupackage: both sides changed names/name[@lang='en']\n");
+}
+
+TEST_F(MergeCommand, AnEntryThatOneSideRemovedIsMarkedAgainstNothing)
+{
+    const std::string line = "    <name lang=\"en\">A</name>\r\n";
+    const ProgramResult result = merge(k_base, replaced(k_base, line, ""), replaced(k_base, ">A<", ">C<"));
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(
+        result.output,
+        replaced(k_base, line, "<<<<<<< ours\r\n=======\r\n    <name lang=\"en\">C</name>\r\n>>>>>>> theirs\r\n"));
+}
+
+TEST_F(MergeCommand, MarksHaveTheEncodingOfTheDocument)
+{
+    const auto utf16 = [](const std::string& text) {
+        std::string bytes = "\xFE\xFF";
+        for (const char c : text)
+            bytes += std::string(1, '\0') + c;
+        return bytes;
+    };
+    const ProgramResult result =
+        merge(utf16("<p version='1'/>\n"), utf16("<p version='2'/>\n"), utf16("<p version='3'/>\n"));
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.output, utf16("<<<<<<< ours\n<p version='2'/>\n=======\n<p version='3'/>\n>>>>>>> theirs\n"));
+}
+
+TEST_F(MergeCommand, WarnsOfTheirTextThatIsNotMerged)
+{
+    const ProgramResult result = merge(k_base, k_base, replaced(k_base, "kept", "changed"));
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.output, k_base);
+    EXPECT_EQ(result.errors, "zupackage: warning: " + file("theirs.xml") +
+                                 " has other comments, or other things that are no part of a package; they are not "
+                                 "merged\n");
+}
+
+TEST_F(MergeCommand, WhatCannotBeReadLeavesTheOutputAsItIs)
+{
+    const std::string output = folder.file("out.xml", "as it is");
+    const std::pair<std::string, std::string> sides[] = {{"<p>", "<p/>"}, {"<p/>", "<p>"}, {"<p/>", ""}, {"", "<p/>"}};
+    for (const auto& [ours, theirs] : sides) {
+        const ProgramResult result = merge("<p/>", ours, theirs, {"-o", output});
+        EXPECT_EQ(result.exitCode, 3) << ours;
+        EXPECT_THAT(result.errors, HasSubstr("zupackage: cannot read " + folder.path().string()));
+        EXPECT_EQ(test::readFile(output), "as it is");
+    }
+}
+
+TEST_F(MergeCommand, OursThatOnlyALenientReaderReadsCannotBeEdited)
+{
+    const ProgramResult result = merge("<p/>", "<p version='1' version='2'/>", "<p author='A'/>");
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_THAT(result.errors, HasSubstr("zupackage: cannot edit " + file("ours.xml") + ": line 1, column 16: "));
+}
+
+TEST_F(MergeCommand, OutputThatCannotBeWrittenIsWorseThanConflicts)
+{
+    EXPECT_EQ(merge("<p version='1'/>", "<p version='2'/>", "<p version='3'/>", {}, {{}, "/dev/full", {}}).exitCode, 5);
+    EXPECT_EQ(merge("<p/>", "<p/>", "<p version='3'/>", {"-o", file("absent/out.xml")}).exitCode, 5);
+}
+
+TEST_F(MergeCommand, WrongUsageIsSaid)
+{
+    for (const std::vector<std::string>& options :
+         {std::vector<std::string>{"--marker-size", "0"}, {"--marker-size", "x"}, {"-L", "a", "-L", "b", "-L", "c"}})
+        EXPECT_EQ(merge("<p/>", "<p/>", "<p/>", options).exitCode, 2) << options[1];
+    EXPECT_EQ(test::runProgram(ZUPACKAGE_PROGRAM, {"merge", "-", "-", "-"}).exitCode, 2);
+    EXPECT_EQ(test::runProgram(ZUPACKAGE_PROGRAM, {"merge", "a", "b"}).exitCode, 2);
+}
+
+} // namespace zu
