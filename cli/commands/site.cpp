@@ -31,17 +31,14 @@ ExitCode addAll(const std::vector<std::string>& manifests, SiteWriter& site)
     Progress progress(manifests.size(), "read");
     inOrder<SiteArticle>(
         manifests.size(), [&](std::size_t i) { return site.articleOf(readSitePackage(manifests[i]), i); },
-        [&](const SiteArticle& article) {
-            const CheckedManifest& checked = article.package.checked;
-            const std::string& failure = checked.failure.empty() ? article.package.refusal : checked.failure;
-            if (!failure.empty()) {
+        [&](SiteArticle article) {
+            if (!article.failure.empty()) {
                 progress.clear();
-                complain("cannot read " + checked.name + ": " + failure);
+                complain("cannot read " + article.name + ": " + article.failure);
                 result = k_inputFailed;
             }
-            // What is no package has a page all the same, with what is wrong; what is no file has none.
-            if (checked.failure.empty())
-                site.add(article, number);
+            if (article.isShown)
+                site.add(std::move(article), number);
             ++number;
             progress.advance();
             return true;

@@ -71,12 +71,19 @@ Html searchedText(const PackageInfo& package)
     return html;
 }
 
-Html cardOf(const SitePackage& package, const std::string& link)
+/// The card up to the address of the package's page.
+Html cardStart(const SitePackage& package)
+{
+    Html html;
+    return html << "<li class=\"card\" data-search=\""_html << searchedText(package.package)
+                << "\">\n<h2><a href=\""_html;
+}
+
+Html cardEnd(const SitePackage& package, const Html& facets)
 {
     const PackageInfo& info = package.package;
     Html html;
-    html << "<li class=\"card\" data-search=\""_html << searchedText(info) << "\">\n<h2><a href=\""_html << link
-         << "\""_html;
+    html << "\""_html;
     if (!package.titleLanguage.empty())
         html << languageAttributes(package.titleLanguage);
     html << ">"_html << package.title << "</a></h2>\n<p class=\"badges\">"_html;
@@ -88,9 +95,6 @@ Html cardOf(const SitePackage& package, const std::string& link)
     if (const auto* text = preferredText(info.descriptions(), info))
         html << "<p class=\"summary\""_html << languageAttributes(text->first) << ">"_html << text->second
              << "</p>\n"_html;
-    Html facets;
-    facets << chips("language", "Languages", languagesOf(package)) << chips("robot", "Robots", robotsOf(info))
-           << chips("permission", "Permissions", permissionsOf(info));
     if (!facets.isEmpty())
         html << "<dl class=\"facets\">\n"_html << facets << "</dl>\n"_html;
     return html << "</li>\n"_html;
@@ -115,12 +119,29 @@ std::string orderOf(const SitePackage& package)
 
 } // namespace
 
-void IndexPage::add(const SitePackage& package, const std::string& link)
+IndexEntry IndexEntry::of(const SitePackage& package)
 {
-    m_entries.push_back({orderOf(package), cardOf(package, link)});
-    m_languages.merge(languagesOf(package));
-    m_robots.merge(robotsOf(package.package));
-    m_permissions.merge(permissionsOf(package.package));
+    IndexEntry entry;
+    entry.order = orderOf(package);
+    entry.languages = languagesOf(package);
+    entry.robots = robotsOf(package.package);
+    entry.permissions = permissionsOf(package.package);
+    Html facets;
+    facets << chips("language", "Languages", entry.languages) << chips("robot", "Robots", entry.robots)
+           << chips("permission", "Permissions", entry.permissions);
+    entry.beforeLink = cardStart(package);
+    entry.afterLink = cardEnd(package, facets);
+    return entry;
+}
+
+void IndexPage::add(IndexEntry entry, const std::string& link)
+{
+    Card& card = m_cards.emplace_back();
+    card.order = std::move(entry.order);
+    card.html << entry.beforeLink << link << entry.afterLink;
+    m_languages.merge(entry.languages);
+    m_robots.merge(entry.robots);
+    m_permissions.merge(entry.permissions);
 }
 
 Html IndexPage::header(const std::string& title) const
@@ -132,10 +153,10 @@ Html IndexPage::header(const std::string& title) const
 
 Html IndexPage::content() const
 {
-    std::vector<const Entry*> sorted;
-    for (const Entry& entry : m_entries)
-        sorted.push_back(&entry);
-    std::stable_sort(sorted.begin(), sorted.end(), [](const Entry* a, const Entry* b) { return a->order < b->order; });
+    std::vector<const Card*> sorted;
+    for (const Card& card : m_cards)
+        sorted.push_back(&card);
+    std::stable_sort(sorted.begin(), sorted.end(), [](const Card* a, const Card* b) { return a->order < b->order; });
 
     Html html;
     // Shown by the script alone: without it nothing would happen.
@@ -147,8 +168,8 @@ Html IndexPage::content() const
          << selection("permission", "Permission", "Any permission", m_permissions)
          << "<button type=\"reset\">Clear</button>\n</form>\n"
             "<p class=\"result-count\" role=\"status\" aria-live=\"polite\"></p>\n<ul class=\"cards\">\n"_html;
-    for (const Entry* entry : sorted)
-        html << entry->card;
+    for (const Card* card : sorted)
+        html << card->html;
     return html << "</ul>\n"_html;
 }
 

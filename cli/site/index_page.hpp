@@ -9,14 +9,28 @@
 
 namespace zu::cli {
 
+/// A package in the list of packages.
+struct IndexEntry
+{
+    /// May be called on several threads at once.
+    static IndexEntry of(const SitePackage& package);
+
+    std::string order; ///< by which the list is sorted: the title, without regard to case
+    Html beforeLink;   ///< its card up to the address of its page
+    Html afterLink;
+    std::set<std::string> languages;
+    std::set<std::string> robots;
+    std::set<std::string> permissions;
+};
+
 /// The list of packages, with what searches and filters it where scripts run.
 class IndexPage
 {
 public:
     /// @param link where the package stands.
-    void add(const SitePackage& package, const std::string& link);
+    void add(IndexEntry entry, const std::string& link);
 
-    std::size_t count() const { return m_entries.size(); }
+    std::size_t count() const { return m_cards.size(); }
 
     /// What stands above the list.
     Html header(const std::string& title) const;
@@ -24,13 +38,13 @@ public:
     Html content() const;
 
 private:
-    struct Entry
+    struct Card
     {
-        std::string order; ///< the title as it is sorted
-        Html card;
+        std::string order;
+        Html html;
     };
 
-    std::vector<Entry> m_entries;
+    std::vector<Card> m_cards;
     std::set<std::string> m_languages;
     std::set<std::string> m_robots;
     std::set<std::string> m_permissions;

@@ -81,8 +81,11 @@ SiteFolder::~SiteFolder()
 void SiteFolder::add(const std::string& name, std::string_view content)
 {
     const fs::path path = m_draft / name;
-    std::error_code error;
-    fs::create_directories(path.parent_path(), error);
+    if (path.parent_path() != m_lastFolder) {
+        std::error_code error;
+        fs::create_directories(path.parent_path(), error);
+        m_lastFolder = path.parent_path();
+    }
     std::FILE* const file = std::fopen(path.c_str(), "wb");
     const bool isWritten = file && std::fwrite(content.data(), 1, content.size(), file) == content.size();
     const bool isClosed = file && std::fclose(file) == 0;

@@ -41,6 +41,7 @@ public:
 private:
     std::filesystem::path m_path;
     std::filesystem::path m_draft;
+    std::filesystem::path m_lastFolder; ///< in which a file was made
     std::vector<std::string> m_names;
 };
 

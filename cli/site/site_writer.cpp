@@ -1,7 +1,6 @@
 #include "site/site_writer.hpp"
 
 #include "site/frame.hpp"
-#include "site/index_page.hpp"
 #include "site/package_page.hpp"
 #include "site/page_names.hpp"
 #include "site/resources.hpp"
@@ -20,22 +19,21 @@ class FolderSiteWriter : public SiteWriter
 public:
     FolderSiteWriter(const std::string& path, std::string title) : m_folder(path), m_title(std::move(title)) {}
 
-    SiteArticle articleOf(SitePackage package, std::size_t) const override
+    std::string htmlOf(const SitePackage& package, std::size_t) const override
     {
         Html header;
         header << "<header class=\"site-nav\"><a href=\"../index.html\">"_html << m_title << "</a></header>\n"_html;
         PageFrame frame;
         frame.title = package.title + " – " + m_title;
         frame.rootPath = "../";
-        std::string html = documentOf(frame, header, packageArticle(package, {}));
-        return {std::move(package), std::move(html)};
+        return documentOf(frame, header, packageArticle(package, {}));
     }
 
-    void add(const SiteArticle& article, std::size_t) override
+    void add(SiteArticle article, std::size_t) override
     {
-        const std::string name = "packages/" + m_names.next(article.package.identifier());
+        const std::string name = "packages/" + m_names.next(article.identifier);
         m_folder.add(name, article.html);
-        m_index.add(article.package, name);
+        m_index.add(std::move(article.entry), name);
     }
 
     void finish() override
@@ -60,19 +58,19 @@ class SingleFileSiteWriter : public SiteWriter
 public:
     SingleFileSiteWriter(std::string path, std::string title) : m_path(std::move(path)), m_title(std::move(title)) {}
 
-    SiteArticle articleOf(SitePackage package, std::size_t number) const override
+    std::string htmlOf(const SitePackage& package, std::size_t number) const override
     {
         const std::string id = idOf(number);
         Html html;
         html << "<div id=\""_html << id << "\">\n"_html << packageArticle(package, {id + "-", 2})
              << "<p><a href=\"#content\">Back to the list</a></p>\n</div>\n"_html;
-        return {std::move(package), html.text()};
+        return html.text();
     }
 
-    void add(const SiteArticle& article, std::size_t number) override
+    void add(SiteArticle article, std::size_t number) override
     {
         m_articles.embed(article.html);
-        m_index.add(article.package, "#" + idOf(number));
+        m_index.add(std::move(article.entry), "#" + idOf(number));
     }
 
     void finish() override
@@ -106,6 +104,21 @@ private:
 };
 
 } // namespace
+
+SiteArticle SiteWriter::articleOf(const SitePackage& package, std::size_t number) const
+{
+    SiteArticle article;
+    article.name = package.checked.name;
+    article.failure = package.checked.failure.empty() ? package.refusal : package.checked.failure;
+    // What is no package has a page all the same, with what is wrong; what is no file has none.
+    article.isShown = package.checked.failure.empty();
+    if (article.isShown) {
+        article.identifier = package.identifier();
+        article.html = htmlOf(package, number);
+        article.entry = IndexEntry::of(package);
+    }
+    return article;
+}
 
 std::unique_ptr<SiteWriter> folderSiteWriter(const std::string& path, const std::string& title)
 {

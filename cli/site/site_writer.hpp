@@ -1,5 +1,6 @@
 #pragma once
 
+#include "site/index_page.hpp"
 #include "site/site_package.hpp"
 
 #include <memory>
@@ -7,11 +8,15 @@
 
 namespace zu::cli {
 
-/// A package with its article, which was made beside the others.
+/// What stands for a package in a site; it is made beside those of others.
 struct SiteArticle
 {
-    SitePackage package;
+    std::string name;    ///< of the manifest, as messages show it
+    std::string failure; ///< why it could not be read, or is read as no package; empty otherwise
+    bool isShown = true; ///< not when there was nothing to read
+    std::string identifier;
     std::string html; ///< the page, or, for a site of a single file, the article in it
+    IndexEntry entry;
 };
 
 /// Puts the packages of a site together, in the order in which they come.
@@ -24,12 +29,16 @@ public:
     SiteWriter& operator=(const SiteWriter&) = delete;
 
     /// Makes what stands for the package with that number. May be called on several threads at once.
-    virtual SiteArticle articleOf(SitePackage package, std::size_t number) const = 0;
+    SiteArticle articleOf(const SitePackage& package, std::size_t number) const;
+    /// Adds one that is shown.
     /// @throws SiteError
-    virtual void add(const SiteArticle& article, std::size_t number) = 0;
+    virtual void add(SiteArticle article, std::size_t number) = 0;
     /// Writes what was made, which nobody sees before that.
     /// @throws SiteError
     virtual void finish() = 0;
+
+private:
+    virtual std::string htmlOf(const SitePackage& package, std::size_t number) const = 0;
 };
 
 /// A folder with a list of the packages, a page for each and a style sheet.
