@@ -64,6 +64,7 @@ const std::vector<Rule> k_rules = {
     {"fuzz/", {"fuzz/", "tests/support/", "authoring/tests/support/", k_authoring, k_package, k_framework, "std/"}},
     {"examples/api/", {k_package, k_framework, "std/"}},
     {"tests/consumer/", {k_authoring, k_package, k_framework, "std/"}},
+    {"tests/hostile/", {"tests/", k_authoring, k_package, k_framework, "gmock/", "gtest/", "sys/", "std/"}},
     {"tests/loading/", {"tests/", k_package, k_framework, "gmock/", "gtest/", "std/"}},
     {"tests/site/", {"tests/", "cli/site/", "gmock/", "gtest/", "std/"}},
     {"tests/cli/", {"tests/", "QtCore/", "gmock/", "gtest/", "sys/", "std/"}},
