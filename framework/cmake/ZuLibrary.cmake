@@ -50,10 +50,10 @@ endfunction()
 # A shared library ${target} with an export header <${folder}/export.hpp> that defines ${macro}, a header of its
 # version, and the object library ${target}_objects behind it: its sources are compiled once, and tests of private
 # operations link the objects. It is known as zu::${EXPORT_NAME}, to pkg-config as ${NAME}, with what its headers need
-# there in REQUIRES and CFLAGS.
+# there in REQUIRES.
 # UNITY: no two sources have the same name for different things, so that they can be compiled together.
 function(zu_add_library target)
-    cmake_parse_arguments(arg "UNITY" "NAME;DESCRIPTION;EXPORT_NAME;FOLDER;MACRO" "SOURCES;REQUIRES;CFLAGS" ${ARGN})
+    cmake_parse_arguments(arg "UNITY" "NAME;DESCRIPTION;EXPORT_NAME;FOLDER;MACRO" "SOURCES;REQUIRES" ${ARGN})
 
     add_library(${target}_objects OBJECT ${arg_SOURCES})
     zu_compile_options(${target}_objects)
@@ -104,7 +104,6 @@ macro(zu_install_library target)
     set(pkgconfig_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
     file(RELATIVE_PATH up_to_prefix /${pkgconfig_folder} /)
     list(JOIN arg_REQUIRES ", " requires)
-    list(JOIN arg_CFLAGS " " cflags)
     configure_file(${ZU_CMAKE_FOLDER}/library.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${arg_NAME}.pc @ONLY)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${arg_NAME}.pc DESTINATION ${pkgconfig_folder}
         COMPONENT ${PROJECT_NAME}_development)

@@ -42,6 +42,7 @@ endforeach()
 run(${PKG_CONFIG} --cflags --libs zupackage-authoring)
 separate_arguments(library_flags UNIX_COMMAND "${output}")
 separate_arguments(compiler_flags UNIX_COMMAND "${COMPILER_FLAGS}")
-run(${COMPILER} ${compiler_flags} -std=c++17 ${CMAKE_CURRENT_LIST_DIR}/main.cpp -o ${WORK_FOLDER}/consumer
+# -fPIC is what Qt's headers want.
+run(${COMPILER} ${compiler_flags} -std=c++17 -fPIC ${CMAKE_CURRENT_LIST_DIR}/main.cpp -o ${WORK_FOLDER}/consumer
     ${library_flags})
 run_and_expect("^org.example.storyteller\n$" ${WORK_FOLDER}/consumer ${MANIFEST})

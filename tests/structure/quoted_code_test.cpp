@@ -77,4 +77,14 @@ TEST(Structure, QuotedCodeStandsInTheFileThatItNames)
     EXPECT_GT(quotations, 0);
 }
 
+TEST(Structure, TheGuideLeadsToEveryPageOfIt)
+{
+    const std::string index = test::readFile(test::sourcePath("docs/guide/README.md"));
+    for (const fs::path& page : pages()) {
+        if (page.extension() == ".md" && page.filename() != "README.md") {
+            EXPECT_NE(index.find("](" + page.filename().string() + ")"), std::string::npos) << page;
+        }
+    }
+}
+
 } // namespace zu
