@@ -47,6 +47,16 @@ Nodes elementsOf(const Nodes& nodes)
 
 } // namespace
 
+Differ::Differ(const SourceDocument& document, const SourceDocument& target, std::string_view written)
+    : m_document(document), m_layout(document, target)
+{
+    const std::string_view wanted = target.text();
+    const auto beginning = std::mismatch(wanted.begin(), wanted.end(), written.begin(), written.end());
+    const auto end = std::mismatch(wanted.rbegin(), wanted.rend(), written.rbegin(), written.rend());
+    m_beginningEnd = static_cast<std::size_t>(beginning.first - wanted.begin());
+    m_endBegin = wanted.size() - static_cast<std::size_t>(end.first - wanted.rbegin());
+}
+
 void Differ::element(SourceNode node, SourceNode target, const ElementEntry& entry, Edits& edits) const
 {
     setAttributes(m_document, node, target, entry, edits);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "edit/layout.hpp"
+#include "edit/element_layout.hpp"
 #include "edit/matching.hpp"
 #include "edit/reading.hpp"
 #include "edit/value_edits.hpp"
@@ -36,10 +36,8 @@ struct Changes
 class Differ
 {
 public:
-    Differ(const SourceDocument& document, const SourceDocument& target)
-        : m_document(document), m_layout(document, target)
-    {
-    }
+    /// @param written the document's package, as the writer writes it.
+    Differ(const SourceDocument& document, const SourceDocument& target, std::string_view written);
 
     /// Makes an element read as another one.
     void element(SourceNode node, SourceNode target, const ElementEntry& entry, Edits& edits) const;
@@ -65,6 +63,9 @@ private:
         const Nodes& wanted;
     };
 
+    /// Whether two entries of a list of the package are known to read alike, from where the two written texts are equal.
+    bool isWrittenAlike(const Items& present, std::size_t presentNumber, const Items& wanted, std::size_t wantedNumber,
+                        const ElementEntry& entry) const;
     bool readsAs(SourceNode node, SourceNode target, const ElementEntry& entry) const;
     void attributes(SourceNode node, SourceNode target, const ElementEntry& entry, Edits& edits) const;
     void children(const Nodes& containers, SourceNode target, const ElementEntry& entry, Edits& edits) const;
@@ -87,6 +88,8 @@ private:
 
     const SourceDocument& m_document;
     Layout m_layout;
+    std::size_t m_beginningEnd; ///< up to where the target is what is written of the document's package
+    std::size_t m_endBegin;     ///< from where on it is
 };
 
 } // namespace zupackage::edit

@@ -129,6 +129,17 @@ void Differ::eachOnce(const Sides& sides, Changes& changes) const
             changes.removed.insert(item.node.index());
 }
 
+bool Differ::isWrittenAlike(const Items& present, std::size_t presentNumber, const Items& wanted,
+                            std::size_t wantedNumber, const ElementEntry& entry) const
+{
+    // All of a list of the package, and nothing else, is written, so that the numbers are those of the written ones.
+    const bool isOfPackage = keepingOf(entry) == Keeping::List && entry.parent->parent && !entry.parent->parent->parent;
+    const ByteRange range = wanted[wantedNumber].node.range();
+    return isOfPackage &&
+           ((presentNumber == wantedNumber && range.end <= m_beginningEnd) ||
+            (present.size() - presentNumber == wanted.size() - wantedNumber && range.begin >= m_endBegin));
+}
+
 SourceNode Differ::list(const Sides& sides, const Items& present, const Items& wanted, SourceNode anchor,
                         Changes& changes) const
 {
@@ -140,7 +151,8 @@ SourceNode Differ::list(const Sides& sides, const Items& present, const Items& w
     std::vector<Match> matches = matchLists(
         lists,
         [&](auto p, auto w) {
-            return present[p].identity == wanted[w].identity && readsAs(present[p].node, wanted[w].node, sides.entry);
+            return isWrittenAlike(present, p, wanted, w, sides.entry) ||
+                   (present[p].identity == wanted[w].identity && readsAs(present[p].node, wanted[w].node, sides.entry));
         },
         [&](auto p, auto w) { return isRenamed(present[p].node, wanted[w].node, sides.entry); });
     return become(sides, present, wanted, matches, anchor, changes);
@@ -156,7 +168,7 @@ SourceNode Differ::become(const Sides& sides, const Items& present, const Items&
             continue;
         const SourceNode node = present[match.present].node;
         // What is no element cannot be edited into one.
-        if (!node.isElement() && !readsAs(node, wanted[i].node, sides.entry))
+        if (!node.isElement() && !match.isEqual && !readsAs(node, wanted[i].node, sides.entry))
             match = {};
         else if (match.isKept)
             kept.insert(match.present);
@@ -170,7 +182,8 @@ SourceNode Differ::become(const Sides& sides, const Items& present, const Items&
     for (std::size_t i = 0; i < wanted.size(); ++i) {
         const SourceNode node = matches[i].present == k_none ? SourceNode() : present[matches[i].present].node;
         if (matches[i].isKept) {
-            element(node, wanted[i].node, sides.entry, changes.edits);
+            if (!matches[i].isEqual)
+                element(node, wanted[i].node, sides.entry, changes.edits);
             last = node;
         } else {
             changes.additions.push_back({sides.number, wanted[i].node, node, last, last ? SourceNode() : first});

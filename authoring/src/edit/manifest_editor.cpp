@@ -43,9 +43,10 @@ std::string settled(std::string manifest)
 }
 
 /// The document with the edits that make it read as `target` does, which a writer has written.
-SourceDocument edited(const SourceDocument& document, const SourceDocument& target)
+SourceDocument edited(const SourceDocument& document, const SourceDocument& target, std::string_view writtenBefore)
 {
-    std::optional<std::string> bytes = applyEdits(document, zupackage::edit::packageEdits(document, target));
+    std::optional<std::string> bytes =
+        applyEdits(document, zupackage::edit::packageEdits(document, target, writtenBefore));
     return bytes ? SourceDocument::parse(std::move(*bytes)) : SourceDocument();
 }
 
@@ -59,7 +60,7 @@ ManifestEditError::ManifestEditError(const std::string& message, Place place)
 ManifestEditError::~ManifestEditError() = default;
 
 ManifestEditor::ManifestEditor(SourceDocument document)
-    : m_document(std::move(document)), m_package(readPackage(m_document))
+    : m_document(std::move(document)), m_package(readPackage(m_document)), m_written(written(*m_package))
 {
 }
 
@@ -68,14 +69,16 @@ PackageInfo ManifestEditor::package() const { return *m_package; }
 void ManifestEditor::update(const PackageInfo& package)
 {
     const std::string wanted = written(package);
-    if (wanted == written(*m_package))
+    if (wanted == m_written)
         return;
-    SourceDocument result = edited(m_document, SourceDocument::parse(wanted));
+    SourceDocument result = edited(m_document, SourceDocument::parse(wanted), m_written);
     std::shared_ptr<const PackageInfo> reading = readPackage(result);
-    if (const std::string reached = written(*reading); reached != wanted && settled(reached) != settled(wanted))
+    std::string reached = written(*reading);
+    if (reached != wanted && settled(reached) != settled(wanted))
         throw ManifestEditError("the document cannot be edited to read as the package", {});
     m_document = std::move(result);
     m_package = std::move(reading);
+    m_written = std::move(reached);
 }
 
 } // namespace zu::authoring

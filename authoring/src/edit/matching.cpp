@@ -26,18 +26,18 @@ public:
     }
 
 private:
-    void keep(std::size_t present, std::size_t wanted) { m_matches[wanted] = {present, true}; }
+    void keep(std::size_t present, std::size_t wanted, bool isEqual) { m_matches[wanted] = {present, true, isEqual}; }
 
     void matchEnds()
     {
         m_presentEnd = m_lists.present.size();
         m_wantedEnd = m_lists.wanted.size();
         while (m_begin < m_presentEnd && m_begin < m_wantedEnd && m_isEqual(m_begin, m_begin)) {
-            keep(m_begin, m_begin);
+            keep(m_begin, m_begin, true);
             ++m_begin;
         }
         while (m_presentEnd > m_begin && m_wantedEnd > m_begin && m_isEqual(m_presentEnd - 1, m_wantedEnd - 1))
-            keep(--m_presentEnd, --m_wantedEnd);
+            keep(--m_presentEnd, --m_wantedEnd, true);
     }
 
     /// Of several that are alike the first is the first.
@@ -97,7 +97,7 @@ private:
             if (m_matches[i].present != k_none || present >= m_presentEnd || fates[present] != Fate::Free)
                 continue;
             if (m_isRenamed(present, i))
-                keep(present, i);
+                keep(present, i, false);
             ++present;
         }
     }

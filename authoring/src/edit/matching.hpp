@@ -21,6 +21,7 @@ struct Match
 {
     std::size_t present = k_none; ///< k_none for a new one
     bool isKept = false;          ///< in its place; moved else
+    bool isEqual = false;         ///< known to be; others may be, too
 };
 
 using Comparison = std::function<bool(std::size_t present, std::size_t wanted)>;

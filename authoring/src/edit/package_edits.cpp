@@ -4,10 +4,10 @@
 
 namespace zupackage::edit {
 
-Edits packageEdits(const SourceDocument& document, const SourceDocument& target)
+Edits packageEdits(const SourceDocument& document, const SourceDocument& target, std::string_view written)
 {
     Edits edits;
-    Differ(document, target)
+    Differ(document, target, written)
         .element(document.root(), target.root(), zu::authoring::Vocabulary::manifest().root(), edits);
     sort(edits);
     return edits;

@@ -67,6 +67,7 @@ public:
 private:
     SourceDocument m_document;
     std::shared_ptr<const PackageInfo> m_package;
+    std::string m_written; ///< the package as it is written
 };
 
 } // namespace zu::authoring

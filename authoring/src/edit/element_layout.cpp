@@ -1,34 +1,18 @@
-#include "edit/layout.hpp"
+#include "edit/element_layout.hpp"
 
 #include "edits.hpp"
+#include "layout.hpp"
 #include "source_tree.hpp"
 
 #include <algorithm>
 
 namespace zupackage::edit {
 
-using zu::authoring::LineEnd;
 using zu::authoring::NodeKind;
 using zu::authoring::SourceTree;
 using zu::authoring::SourceTreeAccess;
 
 namespace {
-
-std::string_view lineEndOf(const SourceDocument& document)
-{
-    switch (document.lineEnd()) {
-    case LineEnd::LineFeed:
-        return "\n";
-    case LineEnd::CarriageReturn:
-        return "\r";
-    case LineEnd::CarriageReturnLineFeed:
-        return "\r\n";
-    }
-    return {};
-}
-
-bool isIndent(char c) { return c == ' ' || c == '\t'; }
-bool isLineEnd(char c) { return c == '\n' || c == '\r'; }
 
 std::size_t linesIn(std::string_view text)
 {
@@ -73,21 +57,6 @@ ByteRange bodyOf(const SourceDocument& document, SourceNode node)
             tree.toDocument(begin + text.find_last_not_of(k_white) + 1)};
 }
 
-/// The indentation of the first element in the root that has one beyond the root's.
-std::string unitOf(const Layout& layout)
-{
-    const SourceNode root = layout.document().root();
-    const std::string outer = layout.indentation(root).value_or("");
-    for (const SourceNode child : root.children()) {
-        if (!child.isElement())
-            continue;
-        const std::optional<std::string> inner = layout.indentation(child);
-        if (inner && inner->size() > outer.size() && inner->compare(0, outer.size(), outer) == 0)
-            return inner->substr(outer.size());
-    }
-    return "  ";
-}
-
 /// Behind the comments that stand in the line behind the node and belong to it.
 std::size_t endOfRemarks(const SourceDocument& document, SourceNode node, const NodeSet& removed)
 {
@@ -129,22 +98,15 @@ std::size_t beginOfRemarks(const Layout& layout, SourceNode node, const NodeSet&
 } // namespace
 
 Layout::Layout(const SourceDocument& document, const SourceDocument& target)
-    : m_document(document), m_target(target), m_lineEnd(lineEndOf(document))
+    : m_document(document), m_target(target), m_lineEnd(authoring::textOf(document.lineEnd())),
+      m_unit(authoring::indentationStep(document))
 {
-    m_unit = unitOf(*this);
 }
 
 std::optional<std::string> Layout::indentation(SourceNode node) const
 {
-    const SourceTree& tree = SourceTreeAccess::tree(m_document);
-    const std::string_view text = tree.utf8();
-    const std::size_t end = tree.toText(bodyOf(m_document, node).begin);
-    std::size_t begin = end;
-    while (begin > 0 && isIndent(text[begin - 1]))
-        --begin;
-    if (begin > 0 && !isLineEnd(text[begin - 1]))
-        return std::nullopt;
-    return std::string(text.substr(begin, end - begin));
+    // The white space before a loose text is part of it.
+    return node.kind() == NodeKind::Text ? std::nullopt : authoring::indentationOf(m_document, node);
 }
 
 std::string Layout::newLine(const std::optional<std::string>& indentation) const
