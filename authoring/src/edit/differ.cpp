@@ -61,7 +61,7 @@ void Differ::element(SourceNode node, SourceNode target, const ElementEntry& ent
 {
     setAttributes(m_document, node, target, entry, edits);
     if (entry.text != ValueKind::None)
-        if (const std::string text = readText(target); text != readText(node))
+        if (const std::string text = writtenText(target); text != readText(node))
             setText(m_document, node, text, edits);
     if (!entry.children.empty())
         children({node}, target, entry, edits);
@@ -123,7 +123,8 @@ void Differ::childrenOf(const Sides& sides, Changes& changes) const
         textsOfKeys(sides, changes);
         break;
     case Keeping::List:
-        list(sides, itemsOf(sides.present, sides.entry), itemsOf(sides.wanted, sides.entry), {}, changes);
+        list(sides, itemsOf(sides.present, sides.entry, readText), itemsOf(sides.wanted, sides.entry, writtenText), {},
+             changes);
         break;
     }
 }

@@ -50,7 +50,7 @@ private:
         std::string identity;
     };
     using Items = std::vector<Item>;
-    static Items itemsOf(const Nodes& nodes, const ElementEntry& entry);
+    static Items itemsOf(const Nodes& nodes, const ElementEntry& entry, TextOf textOf);
     /// The first item of each identity; the others are put into `repeated`.
     static Items firstOnes(Items items, Items& repeated);
 

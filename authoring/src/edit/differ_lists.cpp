@@ -12,13 +12,13 @@ using zu::authoring::ValueKind;
 namespace {
 
 /// What tells an entry of a list from others: what the vocabulary says, or all that it says itself.
-std::string identityOf(SourceNode node, const ElementEntry& entry)
+std::string identityOf(SourceNode node, const ElementEntry& entry, TextOf textOf)
 {
     if (isListOfNames(*entry.parent))
         return std::string(node.name());
     if (!entry.identity.empty() && entry.identity != ".")
         return readAttribute(node, entry.identity);
-    std::string identity = readText(node);
+    std::string identity = textOf(node);
     if (entry.identity.empty())
         for (const AttributeEntry& attribute : entry.attributes)
             identity.append(1, '\0').append(readAttribute(node, attribute.name));
@@ -43,11 +43,11 @@ NodesByKey byKey(const Nodes& nodes, const ElementEntry& entry)
 
 } // namespace
 
-Differ::Items Differ::itemsOf(const Nodes& nodes, const ElementEntry& entry)
+Differ::Items Differ::itemsOf(const Nodes& nodes, const ElementEntry& entry, TextOf textOf)
 {
     Items items;
     for (const SourceNode node : nodes)
-        items.push_back({node, identityOf(node, entry)});
+        items.push_back({node, identityOf(node, entry, textOf)});
     return items;
 }
 
@@ -56,12 +56,12 @@ void Differ::keyed(const Sides& sides, Changes& changes) const
     const NodesByKey present = byKey(sides.present, sides.entry);
     NodesByKey wanted = byKey(sides.wanted, sides.entry);
     for (auto entry = wanted.begin(); entry != wanted.end();)
-        entry = isWritten(entry->second, sides.entry) ? std::next(entry) : wanted.erase(entry);
+        entry = isWritten(entry->second, sides.entry, writtenText) ? std::next(entry) : wanted.erase(entry);
 
     for (const SourceNode node : sides.present) {
         const std::string key = readAttribute(node, keyName(sides.entry));
-        const bool goes = wanted.count(key) == 0 && isWritten(present.at(key), sides.entry);
-        if (goes && (node.isElement() || isWritten(node, sides.entry)))
+        const bool goes = wanted.count(key) == 0 && isWritten(present.at(key), sides.entry, readText);
+        if (goes && (node.isElement() || isWritten(node, sides.entry, readText)))
             changes.removed.insert(node.index());
     }
 
@@ -73,7 +73,8 @@ void Differ::keyed(const Sides& sides, Changes& changes) const
         if (node.isElement()) {
             element(node, target, sides.entry, changes.edits);
             for (const std::size_t addition : first)
-                changes.additions[addition].before = previous ? SourceNode() : node;
+                changes.additions[addition].before = node;
+            first.clear();
             previous = node;
         } else if (!node || !readsAs(node, target, sides.entry)) {
             const bool isFirst = keepingOf(sides.entry) == Keeping::FirstOfKey;
@@ -89,14 +90,15 @@ void Differ::textsOfKeys(const Sides& sides, Changes& changes) const
 {
     std::map<std::string, std::pair<Nodes, Nodes>> lists;
     for (const SourceNode node : sides.present)
-        if (isWritten(node, sides.entry))
+        if (isWritten(node, sides.entry, readText))
             lists[readAttribute(node, keyName(sides.entry))].first.push_back(node);
     for (const SourceNode node : sides.wanted)
-        if (isWritten(node, sides.entry))
+        if (isWritten(node, sides.entry, writtenText))
             lists[readAttribute(node, keyName(sides.entry))].second.push_back(node);
     SourceNode last;
     for (const auto& [key, nodes] : lists)
-        last = list(sides, itemsOf(nodes.first, sides.entry), itemsOf(nodes.second, sides.entry), last, changes);
+        last = list(sides, itemsOf(nodes.first, sides.entry, readText), itemsOf(nodes.second, sides.entry, writtenText),
+                    last, changes);
 }
 
 Differ::Items Differ::firstOnes(Items items, Items& repeated)
@@ -112,9 +114,9 @@ void Differ::eachOnce(const Sides& sides, Changes& changes) const
 {
     Items repeated;
     Items ignored;
-    const Items present = firstOnes(itemsOf(sides.present, sides.entry), repeated);
-    // The white space of two texts that a writer keeps apart is none to the reader.
-    const Items wanted = firstOnes(itemsOf(sides.wanted, sides.entry), ignored);
+    const Items present = firstOnes(itemsOf(sides.present, sides.entry, readText), repeated);
+    // Not every door into a package keeps its lists free of repetitions.
+    const Items wanted = firstOnes(itemsOf(sides.wanted, sides.entry, writtenText), ignored);
     list(sides, present, wanted, {}, changes);
 
     // Where the first one goes, its repetitions must not take its place.

@@ -119,6 +119,8 @@ std::string Layout::text(SourceNode node) const
     // A section has no references for characters that the encoding does not have.
     if (node.kind() == NodeKind::CData && m_document.encoding().compare(0, 3, "UTF") != 0)
         return authoring::escapedText(m_target.source(node.contentRange()));
+    if (isWhite(node))
+        return "<![CDATA[" + std::string(node.value()) + "]]>";
     return std::string(m_target.source(node.range()));
 }
 

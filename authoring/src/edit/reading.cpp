@@ -98,6 +98,14 @@ std::string readText(SourceNode node)
     return text;
 }
 
+std::string writtenText(SourceNode node)
+{
+    std::string text;
+    for (const SourceNode child : node.children())
+        appendText(child, text);
+    return text;
+}
+
 SourceAttribute attributeOf(SourceNode node, std::string_view name)
 {
     for (const SourceAttribute attribute : node.attributes())
@@ -139,10 +147,10 @@ std::string_view keyName(const ElementEntry& entry)
     return entry.identity.empty() && !entry.attributes.empty() ? entry.attributes.front().name : entry.identity;
 }
 
-bool isWritten(SourceNode node, const ElementEntry& entry)
+bool isWritten(SourceNode node, const ElementEntry& entry, TextOf textOf)
 {
     if (entry.text != ValueKind::None)
-        return !readText(node).empty();
+        return !textOf(node).empty();
     return std::any_of(entry.attributes.begin(), entry.attributes.end(), [](const auto& a) { return !a.isRequired; }) ||
            std::all_of(entry.attributes.begin(), entry.attributes.end(),
                        [&](const AttributeEntry& a) { return !readAttribute(node, a.name).empty(); });

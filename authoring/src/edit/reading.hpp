@@ -23,6 +23,12 @@ bool counts(SourceNode node);
 /// The text of an element; empty of anything else.
 std::string readText(SourceNode node);
 
+/// The text of an element that a writer has written, white space alone included: that the reader drops it does not mean
+/// that the package lacks it.
+std::string writtenText(SourceNode node);
+
+using TextOf = std::string (*)(SourceNode);
+
 /// The attribute of that name without a prefix; null when there is none.
 SourceAttribute attributeOf(SourceNode node, std::string_view name);
 
@@ -51,6 +57,6 @@ bool isListOfNames(const ElementEntry& entry);
 std::string_view keyName(const ElementEntry& entry);
 
 /// Whether a writer writes it: it leaves out what has no text, and of what needs all its attributes, what lacks one.
-bool isWritten(SourceNode node, const ElementEntry& entry);
+bool isWritten(SourceNode node, const ElementEntry& entry, TextOf textOf);
 
 } // namespace zupackage::edit

@@ -168,31 +168,6 @@ void changeList(List& list, const std::function<void(typename List::value_type&)
     }
 }
 
-void changeBehavior(BehaviorInfo& behavior)
-{
-    const std::string text = *texts();
-    const std::string key = oneOf({"", "en", "fr"});
-    switch (upTo(7)) {
-    case 0:
-        return behavior.setPath(text);
-    case 1:
-        return behavior.setNature(text);
-    case 2:
-        return behavior.setUserRequestable(!behavior.isUserRequestable());
-    case 3:
-        return behavior.setName(text, key);
-    case 4:
-        return behavior.insertTag(text, key, 0);
-    case 5:
-        return behavior.addCondition(text, key);
-    case 6:
-        behavior.addPermission("canStandUp");
-        return;
-    default:
-        behavior.removePermission("canStandUp");
-    }
-}
-
 void changePackage(PackageInfo& package)
 {
     const std::string text = *texts();
@@ -228,6 +203,31 @@ std::string oddManifest(PackageInfo package)
 {
     const SourceDocument document = SourceDocument::parse(package.saveToManifestContent());
     return inSomeEncoding(OddWriter(document).element(document.root(), true) + oneOf({"", "\n", "<!-- c -->"}));
+}
+
+void changeBehavior(BehaviorInfo& behavior)
+{
+    const std::string text = *texts();
+    const std::string key = oneOf({"", "en", "fr"});
+    switch (upTo(7)) {
+    case 0:
+        return behavior.setPath(text);
+    case 1:
+        return behavior.setNature(text);
+    case 2:
+        return behavior.setUserRequestable(!behavior.isUserRequestable());
+    case 3:
+        return behavior.setName(text, key);
+    case 4:
+        return behavior.insertTag(text, key, 0);
+    case 5:
+        return behavior.addCondition(text, key);
+    case 6:
+        behavior.addPermission("canStandUp");
+        return;
+    default:
+        behavior.removePermission("canStandUp");
+    }
 }
 
 PackageInfo changedPackage(PackageInfo package)

@@ -12,6 +12,9 @@ namespace zu::test {
 /// and encodings of every kind.
 std::string oddManifest(PackageInfo package);
 
+/// Changes, adds or removes one thing of a behavior.
+void changeBehavior(BehaviorInfo& behavior);
+
 /// A copy of the package with one to four things changed, added, removed or moved.
 PackageInfo changedPackage(PackageInfo package);
 

@@ -41,7 +41,8 @@ private:
 /// What counts is what the reader takes: of repeated entries the one that it keeps is edited, and where it takes a
 /// comment or a loose text for an entry (in a list of languages, say), that goes when the package has no such entry.
 /// What a manifest cannot carry (PackageInfo::installer(), empty texts ...) is left out as PackageInfo's writer does,
-/// and makes no difference: an empty text that stands in the document stays.
+/// and makes no difference: an empty text that stands in the document stays. A text of white space alone, which the
+/// reader drops where it stands between tags, is put into a CDATA section.
 ///
 /// Copies are independent. Distinct editors may be used by several threads at once, and the const members of one.
 class ZUPACKAGE_AUTHORING_EXPORT ManifestEditor
