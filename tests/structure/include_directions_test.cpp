@@ -53,6 +53,7 @@ const std::vector<Rule> k_rules = {
     {"src/types/", {"src/", k_package, k_framework, "std/"}},
 
     {"authoring/include/", {k_authoring, k_package, "std/"}},
+    {"authoring/src/json/", {"authoring/src/", k_authoring, k_package, "nlohmann/", "std/"}},
     {"authoring/src/", {"authoring/src/", k_authoring, k_package, "QtCore/", "std/"}},
     {"authoring/generate/", {"nlohmann/", "std/"}},
     {"authoring/tests/",
