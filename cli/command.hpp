@@ -31,11 +31,11 @@ class Arguments
 public:
     explicit Arguments(CLI::App& parser) : m_parser(parser) {}
 
-    /// Exactly one value.
-    void require(std::string& value, const char* name, const char* type, const char* help);
-
     /// One or more values, which `values` holds once the command line is parsed.
     void require(std::vector<std::string>& values, const char* name, const char* type, const char* help);
+
+    /// Exactly one value.
+    void require(std::string& value, const char* name, const char* type, const char* help);
 
     /// Any number of values, none included.
     void accept(std::vector<std::string>& values, const char* name, const char* type, const char* help);
@@ -48,6 +48,9 @@ public:
 
     /// An option whose value is one of those; without it `value`, which must be one of them, stays as it is.
     void choice(std::string& value, const char* name, const std::vector<std::string>& choices, const char* help);
+
+    /// An option that must stand there, with one of those values.
+    void requireChoice(std::string& value, const char* name, const std::vector<std::string>& choices, const char* help);
 
     /// An option without a value.
     void flag(bool& value, const char* name, const char* help);

@@ -3,6 +3,7 @@
 
 #include "commands/add.hpp"
 #include "commands/check.hpp"
+#include "commands/convert.hpp"
 #include "commands/diff.hpp"
 #include "commands/format.hpp"
 #include "commands/get.hpp"
@@ -59,7 +60,7 @@ std::string footerOf(const Examples& examples)
 /// All but `help`, which knows the others.
 std::vector<Command> commands()
 {
-    return {k_add, k_check, k_diff, k_format, k_get, k_languages, k_merge, k_new, k_remove, k_set, k_show, k_site};
+    return {k_add, k_check, k_convert, k_diff, k_format, k_get, k_languages, k_merge, k_new, k_remove, k_set, k_show, k_site};
 }
 
 constexpr Example k_helpExamples[] = {{"zupackage help check", "Explain the command check and its options"}};
@@ -174,6 +175,12 @@ void Arguments::option(std::string& value, const char* name, const char* type, c
 void Arguments::choice(std::string& value, const char* name, const std::vector<std::string>& choices, const char* help)
 {
     m_parser.add_option(name, value, help)->check(CLI::IsMember(choices))->type_name("WHICH")->capture_default_str();
+}
+
+void Arguments::requireChoice(std::string& value, const char* name, const std::vector<std::string>& choices,
+                              const char* help)
+{
+    m_parser.add_option(name, value, help)->required()->check(CLI::IsMember(choices))->type_name("WHICH");
 }
 
 void Arguments::flag(bool& value, const char* name, const char* help) { m_parser.add_flag(name, value, help); }

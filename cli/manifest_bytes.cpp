@@ -43,10 +43,10 @@ bool readManifestBytes(const std::string& path, std::string& bytes, std::string&
     return read(file, bytes, failure);
 }
 
-std::string manifestPath(const std::string& source)
+std::string manifestPath(const std::string& source, const char* name)
 {
     std::error_code error;
-    return source != "-" && std::filesystem::is_directory(source, error) ? source + "/manifest.xml" : source;
+    return source != "-" && std::filesystem::is_directory(source, error) ? source + "/" + name : source;
 }
 
 std::string shownName(const std::string& path) { return path == "-" ? "standard input" : path; }

@@ -10,8 +10,8 @@ namespace zu::cli {
 /// @return whether it could.
 bool readManifestBytes(const std::string& path, std::string& bytes, std::string& failure);
 
-/// The manifest that a user names: a folder stands for the manifest.xml in it.
-std::string manifestPath(const std::string& source);
+/// The manifest that a user names: a folder stands for the file of that name in it.
+std::string manifestPath(const std::string& source, const char* name = "manifest.xml");
 
 /// As messages show it.
 std::string shownName(const std::string& path);

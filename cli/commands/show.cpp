@@ -3,6 +3,7 @@
 #include "manifest_source.hpp"
 #include "output.hpp"
 
+#include <zupackage/authoring/package_json.hpp>
 #include <zupackage/package_info.hpp>
 
 #include <memory>
@@ -14,20 +15,36 @@ namespace zu::cli {
 
 namespace {
 
-ExitCode show(const std::vector<std::string>& sources)
+struct ShowArguments
 {
+    std::vector<std::string> sources;
+    std::string format = "text";
+};
+
+/// Composed first: a dump flushes line by line.
+std::string dumpOf(const PackageInfo& package)
+{
+    std::ostringstream dump;
+    dump << package;
+    return dump.str();
+}
+
+ExitCode show(const ShowArguments& arguments)
+{
+    const bool isJson = arguments.format == "json";
+    if (isJson && arguments.sources.size() != 1) {
+        complain("--format json shows one package");
+        return k_usage;
+    }
     ExitCode result = k_success;
-    for (const std::string& source : sources) {
+    for (const std::string& source : arguments.sources) {
         PackageInfo package;
         // What went wrong, the library has said to standard error.
         if (!loadManifestFrom(source, package)) {
             result = k_inputFailed;
             continue;
         }
-        // Composed first: a dump flushes line by line.
-        std::ostringstream dump;
-        dump << package;
-        if (!writeOutput(dump.str()))
+        if (!writeOutput(isJson ? toJson(package) : dumpOf(package)))
             return k_outputFailed;
     }
     return result;
@@ -35,10 +52,11 @@ ExitCode show(const std::vector<std::string>& sources)
 
 std::function<ExitCode()> prepare(Arguments& arguments)
 {
-    auto sources = std::make_shared<std::vector<std::string>>();
-    arguments.require(*sources, "SOURCE", "FILE|FOLDER|-",
+    auto parsed = std::make_shared<ShowArguments>();
+    arguments.require(parsed->sources, "SOURCE", "FILE|FOLDER|-",
                       "A manifest file, a package folder (its manifest.xml), or - for standard input");
-    return [sources] { return show(*sources); };
+    arguments.choice(parsed->format, "--format", {"text", "json"}, "What to write: text, or one package as JSON");
+    return [parsed] { return show(*parsed); };
 }
 
 constexpr Example k_examples[] = {
