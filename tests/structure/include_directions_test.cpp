@@ -54,6 +54,7 @@ const std::vector<Rule> k_rules = {
 
     {"authoring/include/", {k_authoring, k_package, "std/"}},
     {"authoring/src/json/", {"authoring/src/", k_authoring, k_package, "nlohmann/", "std/"}},
+    {"authoring/src/schema/", {"authoring/src/", k_authoring, k_package, "nlohmann/", "std/"}},
     {"authoring/src/", {"authoring/src/", k_authoring, k_package, "QtCore/", "std/"}},
     {"authoring/generate/", {"nlohmann/", "std/"}},
     {"authoring/tests/",

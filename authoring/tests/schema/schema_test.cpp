@@ -1,0 +1,157 @@
+#include "support/files.hpp"
+#include "support/generated_packages.hpp"
+#include "support/json_schema.hpp"
+#include "support/program.hpp"
+#include "support/property.hpp"
+
+#include <zupackage/authoring/package_json.hpp>
+#include <zupackage/authoring/rule.hpp>
+#include <zupackage/authoring/schema.hpp>
+
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+#include <set>
+
+namespace zu::authoring {
+
+using testing::IsEmpty;
+
+namespace {
+
+/// Validates documents against the schema, all of them by one process.
+class Validation
+{
+public:
+    Validation() : m_schema(m_folder.file("manifest.xsd", xmlSchema())) {}
+
+    void add(const std::string& name, const std::string& document) { m_paths.push_back(m_folder.file(name, document)); }
+
+    /// The names of the documents that are not valid.
+    std::set<std::string> refused() const
+    {
+        std::vector<std::string> arguments{"--noout", "--nonet", "--schema", m_schema};
+        arguments.insert(arguments.end(), m_paths.begin(), m_paths.end());
+        const test::ProgramResult result = test::runProgram("/usr/bin/xmllint", arguments);
+        EXPECT_THAT(result.errors, Not(testing::HasSubstr("WXS schema")));
+        std::set<std::string> refused;
+        for (const std::string& path : m_paths) {
+            if (result.errors.find(path + " validates\n") == std::string::npos)
+                refused.insert(std::filesystem::path(path).filename().string());
+        }
+        return refused;
+    }
+
+private:
+    test::TemporaryFolder m_folder;
+    std::string m_schema;
+    std::vector<std::string> m_paths;
+};
+
+std::string listOf(const std::set<std::string>& names)
+{
+    std::string list;
+    for (const Rule& rule : rules()) {
+        if (names.count(std::string(rule.id)) != 0)
+            list += "- `" + std::string(rule.id) + "`\n";
+    }
+    return list;
+}
+
+std::string manifestOf(const std::filesystem::path& folder) { return test::readFile(folder / "manifest.xml"); }
+
+} // namespace
+
+TEST(XmlSchema, EveryExamplePackageIsValid)
+{
+    Validation validation;
+    for (const auto& folder : test::examplePackages())
+        validation.add(folder.filename().string(), manifestOf(folder));
+    EXPECT_THAT(validation.refused(), IsEmpty());
+}
+
+TEST(XmlSchema, WhatChecksFindNothingInIsValid)
+{
+    Validation validation;
+    for (const Rule& rule : rules())
+        validation.add(std::string(rule.id), manifestWith(rule, rule.goodExample));
+    EXPECT_THAT(validation.refused(), IsEmpty());
+}
+
+// With ZU_UPDATE_GOLDEN in the environment the list is written anew.
+TEST(XmlSchema, RefusesWhatTheGuideSaysThatItDoes)
+{
+    Validation validation;
+    for (const Rule& rule : rules())
+        validation.add(std::string(rule.id), manifestWith(rule, rule.badExample));
+    const std::string list = listOf(validation.refused());
+    const std::string begin = "<!-- refused -->\n";
+    const std::filesystem::path path = test::sourcePath("docs/guide/schemas.md");
+    const std::string guide = test::readFile(path);
+    const std::size_t first = guide.find(begin) + begin.size();
+    const std::size_t last = guide.find("<!-- end of refused -->");
+    ASSERT_LT(first, last);
+    if (std::getenv("ZU_UPDATE_GOLDEN")) {
+        test::writeFile(path, std::string(guide).replace(first, last - first, list));
+        return;
+    }
+    EXPECT_EQ(guide.substr(first, last - first), list);
+}
+
+TEST(XmlSchema, ElementsStandInAnyOrder)
+{
+    Validation validation;
+    validation.add("any order", "<package version='1.0' uuid='u'><contents><dialogContent topicName='t'/>"
+                                "<behaviorContent path='b'><names><name lang='en'>B</name></names>"
+                                "<nature>solitary</nature></behaviorContent></contents>"
+                                "<names><name lang='en'>N</name></names></package>");
+    EXPECT_THAT(validation.refused(), IsEmpty());
+}
+
+TEST(XmlSchema, WhatIsOptionalMayBeEmptyButForFlags)
+{
+    const std::string rest = "><names><name lang='en'>N</name></names><contents/></package>";
+    Validation validation;
+    validation.add("empty texts", "<package uuid='u' version='1' author='' date='' channel=''" + rest);
+    validation.add("empty flag", "<package uuid='u' version='1' installOnlyAtStartup=''" + rest);
+    validation.add("no day", "<package uuid='u' version='1' date='2026-02-30'" + rest);
+    validation.add("padded", "<package uuid='u' version='1' author=' a'" + rest);
+    EXPECT_THAT(validation.refused(), testing::ElementsAre("empty flag", "no day", "padded"));
+}
+
+TEST(JsonSchema, EveryExamplePackageIsValid)
+{
+    const test::TemporaryFolder folder;
+    const std::string schema = folder.file("schema.json", jsonSchema());
+    for (const auto& example : test::examplePackages()) {
+        PackageInfo package;
+        ASSERT_TRUE(package.loadFromManifestFile((example / "manifest.xml").string()));
+        EXPECT_EQ(test::invalidityOfJson(toJson(package), schema), "") << example;
+    }
+}
+
+TEST(JsonSchema, WhatIsWrittenIsValid)
+{
+    const test::TemporaryFolder folder;
+    const std::string schema = folder.file("schema.json", jsonSchema());
+    test::checkProperty(5, [&] {
+        const PackageInfo package = *test::packages(test::byteStrings(), test::byteStrings());
+        RC_ASSERT(test::invalidityOfJson(toJson(package), schema).empty());
+    });
+}
+
+TEST(JsonSchema, WhatIsRefusedIsInvalid)
+{
+    const test::TemporaryFolder folder;
+    const std::string schema = folder.file("schema.json", jsonSchema());
+    for (const char* json :
+         {R"({})", R"({"format_version": 2})", R"({"format_version": 1, "uid": "u"})",
+          R"({"format_version": 1, "names": {"en": 1}})", R"({"format_version": 1, "services": [{"autorun": "true"}]})",
+          R"({"format_version": 1, "contents": {"behaviorContent": [{"permissions": ["canFly"]}]}})",
+          R"({"format_version": 1, "contents": {"behaviorContent": [{"tags": {"en": "t"}}]}})"}) {
+        EXPECT_THROW(packageFromJson(json), PackageJsonError) << json;
+        EXPECT_NE(test::invalidityOfJson(json, schema), "") << json;
+    }
+}
+
+} // namespace zu::authoring
