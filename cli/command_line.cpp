@@ -11,6 +11,7 @@
 #include "commands/merge.hpp"
 #include "commands/new.hpp"
 #include "commands/remove.hpp"
+#include "commands/schema.hpp"
 #include "commands/set.hpp"
 #include "commands/show.hpp"
 #include "commands/site.hpp"
@@ -60,7 +61,8 @@ std::string footerOf(const Examples& examples)
 /// All but `help`, which knows the others.
 std::vector<Command> commands()
 {
-    return {k_add, k_check, k_convert, k_diff, k_format, k_get, k_languages, k_merge, k_new, k_remove, k_set, k_show, k_site};
+    return {k_add,   k_check, k_convert, k_diff,   k_format, k_get,  k_languages,
+            k_merge, k_new,   k_remove,  k_schema, k_set,    k_show, k_site};
 }
 
 constexpr Example k_helpExamples[] = {{"zupackage help check", "Explain the command check and its options"}};

@@ -4,6 +4,7 @@
 #include "output.hpp"
 
 #include <zupackage/authoring/check.hpp>
+#include <zupackage/authoring/schema.hpp>
 
 #include <QtCore/QUuid>
 
@@ -28,6 +29,7 @@ struct NewArguments
     std::string uuid;
     std::string name;
     std::vector<std::string> languages;
+    bool namesSchema = false;
 };
 
 std::string lastNameOf(const std::string& folder)
@@ -47,6 +49,13 @@ SkeletonWish wishOf(const NewArguments& arguments, const std::string& folder)
         arguments.uuid.empty() ? QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() : arguments.uuid;
     wish.languages = arguments.languages.empty() ? std::vector<std::string>{"en"} : arguments.languages;
     return wish;
+}
+
+/// The manifest with a line that tells editors its schema, behind the XML declaration.
+std::string withSchema(std::string manifest)
+{
+    return manifest.insert(manifest.find('\n') + 1, "<?xml-model href=\"" + authoring::xmlSchemaUri() +
+                                                        "\" schematypens=\"http://www.w3.org/2001/XMLSchema\"?>\n");
 }
 
 /// Says what a check of the manifest finds, which comes from what the user gave.
@@ -80,7 +89,8 @@ ExitCode makePackage(const NewArguments& arguments, const std::string& folder)
 {
     Skeleton skeleton;
     makeSkeleton(wishOf(arguments, folder), skeleton);
-    const std::string manifest = skeleton.package.saveToManifestContent();
+    const std::string content = skeleton.package.saveToManifestContent();
+    const std::string manifest = arguments.namesSchema ? withSchema(content) : content;
     if (!isFlawless(manifest))
         return k_usage;
 
@@ -122,6 +132,7 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     arguments.option(parsed->uuid, "--uuid", "ID", "What installers know the package by; by default a random one");
     arguments.option(parsed->name, "--name", "TEXT", "What the package is called; by default as the folder");
     arguments.repeated(parsed->languages, "--language", "CODE", "A language of the package; by default en");
+    arguments.flag(parsed->namesSchema, "--schema", "Tell editors the schema, by a line at the manifest's beginning");
     return [parsed] { return makePackages(*parsed); };
 }
 

@@ -1,11 +1,28 @@
-// Writes the manual pages, the completion of shells and the reference of manifests into a folder.
+// Writes the manual pages, the completion of shells, the schemas and the reference of manifests into a folder.
 #include "manual/completion.hpp"
 #include "manual/man_page.hpp"
 #include "manual/manifest_reference.hpp"
 
+#include <zupackage/authoring/schema.hpp>
+
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+
+namespace {
+
+constexpr char k_schemaFile[] = "manifest.xsd";
+
+/// Leads from the schema's name to the file beside the catalog.
+std::string xmlCatalog()
+{
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+           "<catalog xmlns=\"urn:oasis:names:tc:entity:xmlns:xml:catalog\">\n"
+           "  <uri name=\"" +
+           zu::authoring::xmlSchemaUri() + "\" uri=\"" + k_schemaFile + "\"/>\n</catalog>\n";
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -29,6 +46,10 @@ int main(int argc, char** argv)
     write("bash-completion/completions/zupackage", bashCompletion(program));
     write("zsh/vendor-completions/_zupackage", zshCompletion(program));
     write("fish/vendor_completions.d/zupackage.fish", fishCompletion(program));
+    const fs::path schemas = "zupackage/schemas";
+    write(schemas / k_schemaFile, zu::authoring::xmlSchema());
+    write(schemas / "manifest.schema.json", zu::authoring::jsonSchema());
+    write(schemas / "catalog.xml", xmlCatalog());
     write("manifest.md", manifestReferenceInMarkdown());
     return isWritten ? 0 : 1;
 }
