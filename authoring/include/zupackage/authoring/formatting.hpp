@@ -14,10 +14,10 @@ namespace zu::authoring {
 /// - Attributes stand in the order of the Vocabulary, the others behind them, a blank before each.
 /// - Of empty lines between elements one stays; the document ends with one line end.
 ///
-/// All else stays as it is: texts to the last blank, with all that stands beside them in an element, so that the package
-/// reads as before; comments, instructions, the document type, unknown elements, CDATA sections, references, quotes,
-/// empty tags, what `xml:space` preserves; the encoding and the byte order mark. Line ends between elements become those
-/// that most of them are.
+/// All else stays as it is: texts to the last blank, with all that stands beside them in an element, so that the
+/// package reads as before; comments, instructions, the document type, unknown elements, CDATA sections, references,
+/// quotes, empty tags, what `xml:space` preserves; the encoding and the byte order mark. Line ends between elements
+/// become those that most of them are.
 ///
 /// Formatting what is formatted changes nothing. A document that is not well-formed is given back as it is.
 ZUPACKAGE_AUTHORING_EXPORT std::string formatted(const SourceDocument& document);
