@@ -116,6 +116,16 @@ TEST_F(EditCommands, ADryRunShowsTheDifferenceAndWritesNothing)
     EXPECT_THAT(run({"set", manifest, "@version=1.0", "--dry-run"}).output, IsEmpty());
 }
 
+TEST_F(EditCommands, TheReadmeShowsADryRun)
+{
+    const std::string root = test::sourcePath("README.md").parent_path().string();
+    const ProgramResult result =
+        runBy("cd '" + root + "' && exec \"$@\"",
+              {"set", "examples/packages/fleet-monitor", "--dry-run",
+               "services/service[@name='heartbeat']/envVar[@name='FLEET_ROBOT']/@value=brindle-7"});
+    test::expectGolden(result.output, "set_dry_run.txt");
+}
+
 TEST_F(EditCommands, FarDifferencesStandInHunksOfTheirOwn)
 {
     std::string lines;
