@@ -10,7 +10,6 @@
 namespace zu {
 
 using test::ProgramResult;
-using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
@@ -93,6 +92,23 @@ TEST_F(DiffCommand, UsesColoursWhereTheyAreWanted)
     EXPECT_THAT(coloured, HasSubstr("\x1B[32madded   \x1B[0m names"));
     EXPECT_THAT(coloured, HasSubstr("\n         \x1B[31m- <dialogContent"));
     EXPECT_THAT(diff(files).output, Not(HasSubstr("\x1B")));
+}
+
+TEST_F(DiffCommand, UsesColoursInThePagerOfGit)
+{
+    const std::vector<std::string> words = {"--git",        "m.xml", before(k_before), "0", "100644",
+                                            after(k_after), "0",     "100644"};
+    EXPECT_THAT(diff(words, {{}, {}, {{"GIT_PAGER_IN_USE", "true"}}}).output,
+                StartsWith("\x1B[1mmanifest m.xml\x1B[0m\n\x1B[33mchanged "));
+    EXPECT_THAT(diff(words, {{}, {}, {{"GIT_PAGER_IN_USE", "true"}, {"NO_COLOR", "1"}}}).output,
+                StartsWith("manifest m.xml\nchanged "));
+}
+
+TEST_F(DiffCommand, GitGivesThePathAloneOfWhatIsNotMerged)
+{
+    const ProgramResult result = diff({"--git", "m.xml"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.output, "manifest m.xml is not merged\n");
 }
 
 TEST_F(DiffCommand, NoTextSteersTheTerminal)
