@@ -61,11 +61,11 @@ protected:
 
 TEST_F(GitMerge, BranchesThatAddLanguagesMeetWithoutAConflict)
 {
-    const ProgramResult result = merge(withName("fr", "Saluer"), withName("de", "Winken"));
+    const ProgramResult result = merge(withName("fr", "Saluer"), withName("ja", "手をふる"));
     EXPECT_EQ(result.exitCode, 0) << result.output << result.errors;
     EXPECT_THAT(result.errors, IsEmpty());
     EXPECT_EQ(content(),
-              replaced(withName("fr", "Saluer"), "  </names>", "    <name lang=\"de\">Winken</name>\n  </names>"));
+              replaced(withName("fr", "Saluer"), "  </names>", "    <name lang=\"ja\">手をふる</name>\n  </names>"));
 }
 
 TEST_F(GitMerge, ATextThatBothChangedIsLeftWithMarks)
@@ -86,12 +86,12 @@ TEST_F(GitMerge, ManifestsThatBothAddedAreMerged)
     commitNew(withName("fr", "Saluer"));
     repository.run({"checkout", "--quiet", "theirs"});
     std::filesystem::create_directory(repository.path("new"));
-    commitNew(withName("de", "Winken"));
+    commitNew(withName("ja", "手をふる"));
     repository.run({"checkout", "--quiet", "main"});
     const ProgramResult result = repository.git({"merge", "--quiet", "--no-edit", "theirs"});
     EXPECT_EQ(result.exitCode, 0) << result.output << result.errors;
     EXPECT_THAT(test::readFile(repository.path("new/manifest.xml")), HasSubstr("Saluer"));
-    EXPECT_THAT(test::readFile(repository.path("new/manifest.xml")), HasSubstr("Winken"));
+    EXPECT_THAT(test::readFile(repository.path("new/manifest.xml")), HasSubstr("手をふる"));
 }
 
 TEST_F(GitMerge, WhatCannotBeReadIsLeftAsOurs)
