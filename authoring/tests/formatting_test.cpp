@@ -30,10 +30,11 @@ std::multiset<std::string> partsOf(const SourceDocument& document)
     std::multiset<std::string> parts;
     for (std::size_t i = 1; i < document.nodeCount(); ++i) {
         const SourceNode node = document.node(i);
+        const std::string source(document.source(node.range()));
         if (node.isElement())
             parts.insert(std::string(node.name()));
-        else if (node.kind() != NodeKind::Text)
-            parts.insert(std::string(document.source(node.range())));
+        else if (node.kind() != NodeKind::Text || source.find_first_not_of(" \t\r\n") != std::string::npos)
+            parts.insert(source);
         for (const SourceAttribute attribute : node.attributes())
             parts.insert(std::string(attribute.name()) + "=" + std::string(attribute.value()));
     }
