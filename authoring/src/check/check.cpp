@@ -15,6 +15,7 @@ using zupackage::check::Checked;
 using zupackage::check::ElementPaths;
 using zupackage::check::Finding;
 using zupackage::check::Findings;
+using zupackage::check::PackageFolder;
 using zupackage::check::RuleRow;
 
 SourceRange sourceRange(const SourceDocument& document, const ElementPaths& paths, ByteRange bytes, SourceNode node,
@@ -47,7 +48,9 @@ std::optional<Severity> configured(const CheckOptions& options, const Rule& rule
 CheckReport check(const SourceDocument& document, const CheckOptions& options)
 {
     const zupackage::check::Outline outline(document);
-    const Checked checked{document, outline, options.root};
+    const std::optional<PackageFolder> folder =
+        options.root ? std::optional<PackageFolder>(std::in_place, *options.root) : std::nullopt;
+    const Checked checked{document, outline, folder};
     Findings findings(options.limitPerRule);
     for (const RuleRow* row : zupackage::check::allRules()) {
         findings.beginRule(row->rule);

@@ -34,9 +34,9 @@ void forEachPath(const Outline& outline, Visit visit)
 
 void findMissingFiles(const Checked& checked, Findings& findings)
 {
-    if (!checked.root)
+    if (!checked.folder)
         return;
-    const PackageFolder folder(*checked.root);
+    const PackageFolder& folder = *checked.folder;
     forEachPath(checked.outline, [&](SourceAttribute path) {
         if (!findings.isFull() && folder.find(path.value()) == FileKind::Missing)
             findings.at(path, "the package has no " + inQuotes(path.value()));
@@ -45,9 +45,9 @@ void findMissingFiles(const Checked& checked, Findings& findings)
 
 void findFilesOutside(const Checked& checked, Findings& findings)
 {
-    if (!checked.root)
+    if (!checked.folder)
         return;
-    const PackageFolder folder(*checked.root);
+    const PackageFolder& folder = *checked.folder;
     forEachPath(checked.outline, [&](SourceAttribute path) {
         if (!findings.isFull() && folder.find(path.value()) == FileKind::Outside)
             findings.at(path, inQuotes(path.value()) + " leads out of the package");
@@ -56,9 +56,9 @@ void findFilesOutside(const Checked& checked, Findings& findings)
 
 void findIrregularFiles(const Checked& checked, Findings& findings)
 {
-    if (!checked.root)
+    if (!checked.folder)
         return;
-    const PackageFolder folder(*checked.root);
+    const PackageFolder& folder = *checked.folder;
     for (const SourceNode file : checked.outline.elements(k_executable)) {
         const SourceAttribute path = plainAttribute(file, "path");
         const FileKind kind = folder.find(path.value());
@@ -69,7 +69,7 @@ void findIrregularFiles(const Checked& checked, Findings& findings)
 
 void findFilesNamedTwice(const Checked& checked, Findings& findings)
 {
-    if (!checked.root)
+    if (!checked.folder)
         return;
     for (const std::string_view entry : {k_behavior, k_topic, k_executable}) {
         std::map<std::string, SourceAttribute> seen;
@@ -97,7 +97,7 @@ std::set<std::string> normalPaths(const Outline& outline, std::string_view entry
 /// Reports what lies beside the entries' files, of their kind, and is none of them.
 void reportUnlisted(const Checked& checked, Findings& findings, std::string_view entry, FileKind kind, const char* what)
 {
-    if (!checked.root || !checked.document.isComplete() || !checked.document.root())
+    if (!checked.folder || !checked.document.isComplete() || !checked.document.root())
         return;
     const std::set<std::string> listed = normalPaths(checked.outline, entry);
     std::set<Siblings> places;
@@ -107,7 +107,7 @@ void reportUnlisted(const Checked& checked, Findings& findings, std::string_view
         else
             places.insert({parentOf(path), extensionOf(path)});
     }
-    const PackageFolder folder(*checked.root);
+    const PackageFolder& folder = *checked.folder;
     for (const Siblings& siblings : places) {
         // Beside a folder of the package itself there is everything else.
         if (siblings.folder.empty())
@@ -131,10 +131,10 @@ void findUnlistedTopics(const Checked& checked, Findings& findings)
 
 void findServicesNotExecutable(const Checked& checked, Findings& findings)
 {
-    if (!checked.root)
+    if (!checked.folder)
         return;
     const std::set<std::string> executables = normalPaths(checked.outline, k_executable);
-    const PackageFolder folder(*checked.root);
+    const PackageFolder& folder = *checked.folder;
     for (const SourceNode service : checked.outline.elements("/package/services/service")) {
         const SourceAttribute command = plainAttribute(service, "execStart");
         const std::string_view program = command.value().substr(0, command.value().find(' '));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check/outline.hpp"
+#include "check/package_folder.hpp"
 
 #include <zupackage/authoring/check.hpp>
 #include <zupackage/authoring/rule.hpp>
@@ -21,7 +22,7 @@ struct Checked
 {
     const SourceDocument& document;
     const Outline& outline;
-    const std::optional<std::string>& root; ///< the folder of the package; nothing when there is none to look at
+    const std::optional<PackageFolder>& folder; ///< of the package; nothing when there is none to look at
 };
 
 /// A finding as its rule makes it, before its places are known in lines and paths.

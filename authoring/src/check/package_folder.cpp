@@ -37,6 +37,14 @@ PackageFolder::PackageFolder(const std::string& root)
 
 FileKind PackageFolder::find(std::string_view path) const
 {
+    const auto found = m_found.find(path);
+    if (found != m_found.end())
+        return found->second;
+    return m_found.emplace(path, lookUp(path)).first->second;
+}
+
+FileKind PackageFolder::lookUp(std::string_view path) const
+{
     const fs::path relative{path};
     const fs::path normal = relative.lexically_normal();
     if (relative.is_absolute() || (!normal.empty() && *normal.begin() == ".."))

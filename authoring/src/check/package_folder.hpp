@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -29,7 +31,7 @@ struct Siblings
     }
 };
 
-/// The folder of a package on disk. Looks at entries, and opens no file.
+/// The folder of a package on disk. Looks at entries, at each once, and opens no file.
 class PackageFolder
 {
 public:
@@ -42,7 +44,10 @@ public:
     std::vector<std::string> list(const Siblings& siblings, FileKind kind) const;
 
 private:
+    FileKind lookUp(std::string_view path) const;
+
     std::string m_root;
+    mutable std::map<std::string, FileKind, std::less<>> m_found; ///< several rules ask for the same files
 };
 
 /// A path without what does not matter in it: "./bin//clock" is "bin/clock".
