@@ -64,7 +64,7 @@ const std::vector<Rule> k_rules = {
     {"bench/",
      {"bench/", k_authoring, k_package, k_framework, "QtCore/", "QtXml/", "benchmark/", "boost/", "nlohmann/", "std/"}},
     {"fuzz/", {"fuzz/", "tests/support/", "authoring/tests/support/", k_authoring, k_package, k_framework, "std/"}},
-    {"examples/api/", {k_package, k_framework, "std/"}},
+    {"examples/api/", {k_authoring, k_package, k_framework, "std/"}},
     {"tests/consumer/", {k_authoring, k_package, k_framework, "std/"}},
     {"tests/hostile/", {"tests/", k_authoring, k_package, k_framework, "gmock/", "gtest/", "sys/", "std/"}},
     {"tests/loading/", {"tests/", k_package, k_framework, "gmock/", "gtest/", "std/"}},

@@ -1,10 +1,34 @@
 // Compares how files in folders are read as source documents with what QXmlStreamReader makes of them.
 // usage: zupackage_compare_source_documents FOLDER...
-// Also tells which documents are refused that QXmlStreamReader accepts: those are no differences, but known by name.
+// Each is edited, too. Also tells which documents are refused that QXmlStreamReader accepts: those are no differences, but known by name.
 #include "support/files.hpp"
 #include "support/stream_reader.hpp"
 
+#include <zupackage/authoring/manifest_editor.hpp>
+#include <zupackage/package_info.hpp>
+
 #include <iostream>
+
+namespace {
+
+/// Whether an editor leaves a document alone that is to read as it does. One that cannot be edited is left alone, too.
+bool isKeptByEditor(const zu::authoring::SourceDocument& document)
+{
+    try {
+        zu::authoring::ManifestEditor editor(document);
+        zu::PackageInfo package = editor.package();
+        editor.update(package);
+        if (editor.document().text() != document.text())
+            return false;
+        package.setUuid("another " + package.uuid());
+        editor.update(package);
+        return editor.package().uuid() == package.uuid();
+    } catch (const zu::authoring::ManifestEditError&) {
+        return true;
+    }
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -25,6 +49,10 @@ int main(int argc, char** argv)
                 std::cout << entry.path().string() << ", " << difference << '\n';
             }
             const auto document = zu::authoring::SourceDocument::parse(bytes);
+            if (!isKeptByEditor(document)) {
+                ++differences;
+                std::cout << entry.path().string() << ", edited otherwise than asked for\n";
+            }
             std::string error;
             zu::test::streamReaderTokens(bytes, error);
             if (document.isWellFormed())
