@@ -49,6 +49,7 @@ struct ZUPACKAGE_EXPORT PackageService
     std::map<std::string, std::string> envVars; ///< environment variables: name to value
 };
 
+/// Makes RobotRequirement known to the type system.
 template <>
 struct ZUPACKAGE_EXPORT NativeType<RobotRequirement>
 {
@@ -56,6 +57,7 @@ struct ZUPACKAGE_EXPORT NativeType<RobotRequirement>
     static const TypeInterface* make();
 };
 
+/// Makes MorvoRequirement known to the type system.
 template <>
 struct ZUPACKAGE_EXPORT NativeType<MorvoRequirement>
 {
@@ -63,6 +65,7 @@ struct ZUPACKAGE_EXPORT NativeType<MorvoRequirement>
     static const TypeInterface* make();
 };
 
+/// Makes PackageService known to the type system.
 template <>
 struct ZUPACKAGE_EXPORT NativeType<PackageService>
 {

@@ -17,6 +17,7 @@ struct ZUPACKAGE_EXPORT WebInfo
     std::string path; ///< inside the package
 };
 
+/// Makes WebInfo known to the type system.
 template <>
 struct ZUPACKAGE_EXPORT NativeType<WebInfo>
 {
@@ -24,6 +25,7 @@ struct ZUPACKAGE_EXPORT NativeType<WebInfo>
     static const TypeInterface* make();
 };
 
+/// Makes PackageInfo2 known to the type system.
 template <>
 struct ZUPACKAGE_EXPORT NativeType<PackageInfo2>
 {

@@ -52,6 +52,7 @@ private:
 
 } // namespace zu
 
+/// Equal types have equal hashes.
 template <>
 struct std::hash<zu::TypeInfo>
 {

@@ -30,9 +30,9 @@ struct PathPredicate
     enum class Kind
     {
         Position,  ///< `[2]`: the second of those that meet the conditions before, in each parent
-        Attribute, ///< `[@lang='fr']`
-        Child,     ///< `[model='x']`: a child of that name has that text
-        OwnText    ///< `[.='fr']`
+        Attribute, ///< ``[@lang='fr']``
+        Child,     ///< ``[model='x']``: a child of that name has that text
+        OwnText    ///< ``[.='fr']``
     };
 
     Kind kind;

@@ -20,10 +20,10 @@ enum class ChangeKind
 /// One difference between two packages.
 struct PackageChange
 {
-    /// Where, in XPath notation relative to the root element: `@version`, `names/name[@lang='fr']`,
-    /// `contents/behaviorContent[@path='stories']/nature`, `requirements/morvoRequirement[2]`. As in the package after;
-    /// of what was removed as in the one before. What a text identifies badly (an empty one, one with quotes of both
-    /// kinds or with control characters) is told by its number.
+    /// Where, in XPath notation relative to the root element: `@version`, ``names/name[@lang='fr']``,
+    /// ``contents/behaviorContent[@path='stories']/nature``, `requirements/morvoRequirement[2]`. As in the package
+    /// after; of what was removed as in the one before. What a text identifies badly (an empty one, one with quotes of
+    /// both kinds or with control characters) is told by its number.
     std::string path;
     ChangeKind kind;
     /// The text of the field or entry in the package before; empty for what was added, and for an entry that says

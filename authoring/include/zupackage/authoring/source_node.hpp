@@ -26,7 +26,7 @@ enum class NodeKind : std::uint8_t
     CData,                 ///< `<![CDATA[ ... ]]>`
     Comment,               ///< `<!-- ... -->`
     ProcessingInstruction, ///< `<?target ...?>`
-    EntityReference,       ///< `&name;` in content, of an entity that is not predefined
+    EntityReference,       ///< in content, to an entity that is not predefined
 };
 
 /// One attribute of an element, or one part of the XML declaration, as it stands in a document.
@@ -180,6 +180,7 @@ private:
 class SourceChildren
 {
 public:
+    /// A place in the range, for range-based loops; valid as long as the document.
     class Iterator
     {
     public:
@@ -215,6 +216,7 @@ private:
 class SourceAttributes
 {
 public:
+    /// A place in the range, for range-based loops; valid as long as the document.
     class Iterator
     {
     public:

@@ -16,6 +16,7 @@ class OpaqueType : public Native<T, UnknownTypeInterface>
 
 } // namespace detail
 
+/// The type of no values.
 template <>
 struct NativeType<void>
 {

@@ -147,6 +147,7 @@ bool registerStruct(std::string className, std::vector<Member<T>> members)
     return detail::registerOwned(makeStruct<T>(std::move(className), std::move(members)));
 }
 
+/// Structs with a schema.
 template <class T>
 struct NativeType<T, std::void_t<decltype(StructSchema<T>::describe())>>
 {

@@ -284,6 +284,7 @@ std::optional<T> AnyReferenceBase::tryTo() const
 
 } // namespace zu
 
+/// Values that compare equal have equal hashes, whatever their types.
 template <>
 struct std::hash<zu::AnyReference>
 {

@@ -151,6 +151,7 @@ AnyValue AnyValue::from(T&& object)
 
 } // namespace zu
 
+/// Values that compare equal have equal hashes, whatever their types.
 template <>
 struct std::hash<zu::AnyValue>
 {
