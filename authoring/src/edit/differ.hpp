@@ -63,7 +63,8 @@ private:
         const Nodes& wanted;
     };
 
-    /// Whether two entries of a list of the package are known to read alike, from where the two written texts are equal.
+    /// Whether two entries of a list of the package are known to read alike, from where the two written texts are
+    /// equal.
     bool isWrittenAlike(const Items& present, std::size_t presentNumber, const Items& wanted, std::size_t wantedNumber,
                         const ElementEntry& entry) const;
     bool readsAs(SourceNode node, SourceNode target, const ElementEntry& entry) const;
