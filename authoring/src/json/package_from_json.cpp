@@ -66,7 +66,7 @@ private:
 /// The parser's own words without what it says of the place and quotes from the text.
 std::string reasonIn(std::string_view words)
 {
-    const std::size_t begin = words.rfind(" - ");
+    const std::size_t begin = words.find(" - ");
     words.remove_prefix(begin == std::string_view::npos ? 0 : begin + 3);
     return "is no JSON: " + std::string(words.substr(0, words.find("; last read")));
 }

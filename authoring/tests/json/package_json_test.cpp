@@ -199,6 +199,7 @@ INSTANTIATE_TEST_SUITE_P(
                 "line 3, column 1, at \"/format_version\": is no JSON: unexpected '}'; expected string literal"},
         Refusal{"{\"uuid\": \"\xff\"}",
                 "line 1, column 11, at \"/uuid\": is no JSON: invalid string: ill-formed UTF-8 byte"},
+        Refusal{"{\"a - b; last read", "line 1, column 19: is no JSON: invalid string: missing closing quote"},
         Refusal{"{\"format_version\": 1} x", "line 1, column 23: is no JSON: invalid literal"}));
 
 TEST(PackageFromJson, ErrorsAreDataToo)
