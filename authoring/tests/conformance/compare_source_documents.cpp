@@ -1,6 +1,7 @@
 // Compares how files in folders are read as source documents with what QXmlStreamReader makes of them.
 // usage: zupackage_compare_source_documents FOLDER...
-// Each is edited, too. Also tells which documents are refused that QXmlStreamReader accepts: those are no differences, but known by name.
+// Each is edited, too. Also tells which documents are refused that QXmlStreamReader accepts: those are no differences,
+// but known by name.
 #include "support/files.hpp"
 #include "support/stream_reader.hpp"
 
