@@ -117,9 +117,10 @@ std::string Layout::newLine(const std::optional<std::string>& indentation) const
 std::string Layout::text(SourceNode node) const
 {
     // A section has no references for characters that the encoding does not have.
-    if (node.kind() == NodeKind::CData && m_document.encoding().compare(0, 3, "UTF") != 0)
+    const bool hasSections = m_document.encoding().compare(0, 3, "UTF") == 0;
+    if (node.kind() == NodeKind::CData && !hasSections)
         return authoring::escapedText(m_target.source(node.contentRange()));
-    if (isWhite(node))
+    if (isWhite(node) && hasSections)
         return "<![CDATA[" + std::string(node.value()) + "]]>";
     return std::string(m_target.source(node.range()));
 }

@@ -102,19 +102,22 @@ void collectTexts(SourceNode element, Texts& texts)
 }
 
 /// A source that says the text wherever it stands.
-std::string anySource(std::string_view text)
+std::string anySource(std::string_view text, const SourceDocument& document)
 {
     // White space alone is dropped unless it stands in a section.
-    return isBlank(text) && !text.empty() ? "<![CDATA[" + std::string(text) + "]]>" : authoring::escapedText(text);
+    return isBlank(text) && !text.empty() && fitsSection(text, document) ? "<![CDATA[" + std::string(text) + "]]>"
+                                                                         : authoring::escapedText(text);
 }
 
 /// All texts go but one, which becomes the text.
-void setWhole(SourceNode element, const Texts& texts, std::string_view text, Edits& edits)
+void setWhole(const SourceDocument& document, SourceNode element, const Texts& texts, std::string_view text,
+              Edits& edits)
 {
     const auto place = std::find_if(texts.speaking.begin(), texts.speaking.end(),
                                     [&](SourceNode node) { return node.parent() == element; });
     const std::size_t content = element.contentRange().begin;
-    edits.push_back({place == texts.speaking.end() ? ByteRange{content, content} : place->range(), anySource(text)});
+    edits.push_back(
+        {place == texts.speaking.end() ? ByteRange{content, content} : place->range(), anySource(text, document)});
     for (const std::vector<SourceNode>* const nodes : {&texts.speaking, &texts.blank})
         for (const SourceNode node : *nodes)
             if (place == texts.speaking.end() || node != *place)
@@ -131,7 +134,7 @@ void setValue(const SourceDocument& document, SourceAttribute attribute, std::st
 void setText(const SourceDocument& document, SourceNode element, std::string_view text, Edits& edits)
 {
     if (element.isEmptyTag()) {
-        fill(document, element, anySource(text), edits);
+        fill(document, element, anySource(text, document), edits);
         return;
     }
     Texts texts;
@@ -147,7 +150,7 @@ void setText(const SourceDocument& document, SourceNode element, std::string_vie
             return;
         }
     }
-    setWhole(element, texts, text, edits);
+    setWhole(document, element, texts, text, edits);
 }
 
 void fill(const SourceDocument& document, SourceNode element, std::string_view content, Edits& edits)

@@ -64,6 +64,18 @@ TEST(ManifestEditor, RefusesWhatTheEncodingCannotHoldAndChangesNothing)
     EXPECT_EQ(editor.package().uuid(), "u");
 }
 
+TEST(ManifestEditor, KeepsWhiteSpaceAloneInASectionWhereTheEncodingHasIt)
+{
+    const auto change = [](PackageInfo& p) { p.setName("\xe2\x80\xa8", ""); };
+    EXPECT_EQ(edited("<p><names><name>a</name></names></p>", change),
+              "<p><names><name><![CDATA[\xe2\x80\xa8]]></name></names></p>");
+    const std::string declaration = "<?xml version='1.0' encoding='ISO-8859-1'?>";
+    EXPECT_EQ(edited(declaration + "<p><names><name>a</name></names></p>", change),
+              declaration + "<p><names><name>&#8232;</name></names></p>");
+    EXPECT_EQ(edited(declaration + "<p><names/></p>", change),
+              declaration + "<p><names><name>&#8232;</name></names></p>");
+}
+
 TEST(ManifestEditor, AnUpdateWithItsOwnPackageChangesNoByte)
 {
     const std::string text = "<package  uuid = 'u'><!-- c --><names>\r\n<!-- c --><name/></names><x/>\n</package>\n\n";
