@@ -41,8 +41,8 @@ namespace zu {
 /// Why a conversion failed, and where.
 struct ZU_EXPORT ConversionFailure
 {
-    std::string sourceType; ///< the names of the types that were to be converted; "nothing" for an empty reference
-    std::string targetType;
+    std::string sourceType; ///< the name of the type that was to be converted; "nothing" for an empty reference
+    std::string targetType; ///< the name of the type that it was to become; "nothing" for an empty reference
 
     /// The way from the value to the element that failed: `[2]` for element 2 of a list or member 2 of a tuple without
     /// names, `.name` for a member, `["key"]`, `[7]` for the value under a key, `{3}` for the value of entry 3 under a
@@ -62,11 +62,16 @@ struct ZU_EXPORT ConversionFailure
 class ZU_EXPORT ConversionError : public std::runtime_error
 {
 public:
+    /// Its what() is the message() of `failure`.
     explicit ConversionError(const ConversionFailure& failure);
+
+    /// Copies share the failure, so that copying cannot fail.
     ConversionError(const ConversionError&) noexcept = default;
+    /// Shares the failure of the other.
     ConversionError& operator=(const ConversionError&) noexcept = default;
     ~ConversionError() override;
 
+    /// The failure as it was given; valid as long as the error or a copy of it is there.
     const ConversionFailure& failure() const noexcept { return *m_failure; }
 
 private:

@@ -19,19 +19,27 @@ public:
 
     /// Nothing is known of the value but its type.
     virtual void visitUnknown(const AnyReference& value) = 0;
+
+    /// A value of kind Void: there is nothing to be given of it.
     virtual void visitVoid() = 0;
 
     /// @param number    the value; of an unsigned type of 8 bytes its bits, to be cast to std::uint64_t
     /// @param byteSize  0 for bool
     virtual void visitInt(std::int64_t number, bool isSigned, unsigned byteSize) = 0;
+
+    /// @param byteSize  4 for single, 8 for double precision
     virtual void visitFloat(double number, unsigned byteSize) = 0;
 
     /// The text with its length: zero bytes do not end it.
     virtual void visitString(std::string_view text) = 0;
+
+    /// The list itself: its elements are had by begin() and end(), `_element(i)` and size().
     virtual void visitList(const AnyReference& list) = 0;
 
     /// Its elements are entries: `_element(0)` the key, `_element(1)` the value.
     virtual void visitMap(const AnyReference& map) = 0;
+
+    /// The object itself, of which only the type can be told.
     virtual void visitObject(const AnyReference& object) = 0;
 
     /// @param pointee  what it points to; empty for a null pointer
@@ -48,7 +56,11 @@ public:
 
     /// Address and number of the bytes; the address may be null when there are none.
     virtual void visitRaw(std::string_view bytes) = 0;
+
+    /// The position itself; `AnyIterator(AnyValue(iterator))` walks on from a copy of it.
     virtual void visitIterator(const AnyReference& iterator) = 0;
+
+    /// The arguments themselves, read like a list.
     virtual void visitVarArgs(const AnyReference& arguments) = 0;
 
     /// The optional itself; `content()` gives its value, an empty reference when it is absent.
@@ -56,7 +68,11 @@ public:
 
 protected:
     TypeVisitor() = default;
+
+    /// For visitors to be copied as what they are, never as a mere base.
     TypeVisitor(const TypeVisitor&) = default;
+
+    /// Likewise.
     TypeVisitor& operator=(const TypeVisitor&) = default;
 };
 
@@ -91,7 +107,11 @@ public:
 
 protected:
     PartialVisitor() = default;
+
+    /// For visitors to be copied as what they are, never as a mere base.
     PartialVisitor(const PartialVisitor&) = default;
+
+    /// Likewise.
     PartialVisitor& operator=(const PartialVisitor&) = default;
 
     /// Does nothing.

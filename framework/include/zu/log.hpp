@@ -34,18 +34,18 @@ ZU_EXPORT std::string_view levelName(Level level) noexcept;
 /// Where a record says it comes from. The texts are not copied; literals are meant.
 struct Origin
 {
-    const char* file;
-    const char* function;
-    int line; ///< counted from 1
+    const char* file;     ///< as the writer names it, which need not be its path
+    const char* function; ///< with the scopes that it stands in ("zu::dispatch")
+    int line;             ///< counted from 1
 };
 
 /// What a handler is given. The views hold only during the call.
 struct Record
 {
-    Level level;
-    std::string_view category;
-    std::string_view message;
-    Origin origin;
+    Level level;               ///< never Level::Silent
+    std::string_view category; ///< the name of the category
+    std::string_view message;  ///< as it was written: of any number of lines, and not sure to be UTF-8
+    Origin origin;             ///< as it was given by the writer
 };
 
 /// A named category with its threshold. Made by addCategory() alone; lives as long as the process.
@@ -56,10 +56,13 @@ public:
     Category& operator=(const Category&) = delete;
     ~Category() = default;
 
+    /// The name that addCategory() was first given; it may be empty.
     const std::string& name() const noexcept { return m_name; }
 
     /// The most talkative level that is let through; Level::Info for a new category.
     Level threshold() const noexcept { return m_threshold.load(std::memory_order_relaxed); }
+
+    /// For the records written from now on; Level::Silent lets none through.
     void setThreshold(Level threshold) noexcept { m_threshold.store(threshold, std::memory_order_relaxed); }
 
     /// Whether a record of `level` would be written.

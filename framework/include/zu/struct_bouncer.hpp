@@ -21,6 +21,7 @@ public:
     /// Gives the private record that a public object owns.
     using Record = Private* (*)(Public*);
 
+    /// Throws std::invalid_argument for an empty class name. `recordOf` gives null for an object without record.
     StructTypeInterfaceBouncer(std::string className, Record recordOf)
         : m_className(std::move(className)), m_recordOf(recordOf)
     {

@@ -29,6 +29,7 @@ public:
         return boost::typeindex::stl_type_index::type_id<T>();
     }
 
+    /// The identity as Boost.TypeIndex has it.
     const boost::typeindex::stl_type_index& index() const noexcept { return m_index; }
 
     /// The name as a person writes it: "std::map<std::string, int>", and not as compilers do, with every default
@@ -39,9 +40,12 @@ public:
     /// unrelated and may yet compare equal, so the type system refuses them.
     bool isAnonymous() const noexcept;
 
+    /// The same for equal types.
     std::size_t hash() const noexcept { return m_index.hash_code(); }
 
+    /// Whether both are the identity of one type, whichever libraries they were made in.
     friend bool operator==(const TypeInfo& a, const TypeInfo& b) noexcept { return a.m_index == b.m_index; }
+    /// Whether they are those of different types.
     friend bool operator!=(const TypeInfo& a, const TypeInfo& b) noexcept { return !(a == b); }
     /// Some strict order, the same for the life of the process.
     friend bool operator<(const TypeInfo& a, const TypeInfo& b) noexcept { return a.m_index < b.m_index; }
@@ -56,5 +60,6 @@ private:
 template <>
 struct std::hash<zu::TypeInfo>
 {
+    /// That of TypeInfo::hash().
     std::size_t operator()(const zu::TypeInfo& info) const noexcept { return info.hash(); }
 };

@@ -18,9 +18,12 @@ class VarArguments
 {
 public:
     VarArguments() = default;
+    /// Takes over the arguments, in their order.
     explicit VarArguments(std::vector<T> arguments) : m_arguments(std::move(arguments)) {}
 
+    /// The arguments, which may be changed, in number too.
     std::vector<T>& args() noexcept { return m_arguments; }
+    /// The arguments in their order.
     const std::vector<T>& args() const noexcept { return m_arguments; }
 
 private:

@@ -90,6 +90,8 @@ template <class T, class Interface>
 class Native : public Interface
 {
 public:
+    /// A T made by its default constructor; null, and logged, when it has none or that throws anything but
+    /// std::bad_alloc, which comes out.
     void* initializeStorage() const override
     {
         if constexpr (std::is_default_constructible_v<T>) {
@@ -108,6 +110,7 @@ public:
         }
     }
 
+    /// Throws std::logic_error when T cannot be copied; of a container, when what it contains cannot.
     void* clone(const void* value) const override
     {
         if constexpr (detail::isCopyable<T>)
@@ -116,6 +119,7 @@ public:
             detail::throwNotCopyable(*this);
     }
 
+    /// Copies a T that cannot be moved.
     void* take(void* value) const override
     {
         if constexpr (std::is_move_constructible_v<T>)
@@ -124,12 +128,15 @@ public:
             return clone(value);
     }
 
+    /// Does nothing for a T that is abstract or whose destructor cannot be called: no such value is made here.
     void destroy(void* value) const override
     {
         if constexpr (std::is_destructible_v<T> && !std::is_abstract_v<T>)
             delete static_cast<T*>(value);
     }
 
+    /// When the copying throws, `target` is as it was if the move assignment of T cannot throw.
+    /// @return false, and nothing is done, when T cannot be copied or not be assigned.
     bool assign(void* target, const void* source) const override
     {
         if constexpr (detail::isCopyable<T> && std::is_nothrow_move_assignable_v<T>) {
@@ -143,6 +150,7 @@ public:
         }
     }
 
+    /// Copies a T that cannot be moved.
     bool assignMoved(void* target, void* source) const override
     {
         if constexpr (std::is_move_assignable_v<T>) {
@@ -156,7 +164,9 @@ public:
 protected:
     Native() : Interface(TypeInfo::of<T>(), detail::wordSizeOf<T>) {}
 
+    /// The value as what it is, for the operations that are left to write.
     static T& object(void* value) { return *static_cast<T*>(value); }
+    /// The same for reading.
     static const T& object(const void* value) { return *static_cast<const T*>(value); }
 };
 

@@ -22,10 +22,14 @@ class Object
 {
 public:
     Object() = default;
+
+    /// Shares the object; a null pointer makes a handle without one.
     explicit Object(std::shared_ptr<T> object) : m_object(std::move(object)) {}
 
     /// The object, an empty reference for a handle without one.
     AnyReference reference() const { return m_object ? AnyReference::from(*m_object) : AnyReference(); }
+
+    /// Null for a handle without an object.
     const std::shared_ptr<T>& pointer() const noexcept { return m_object; }
 
 private:
@@ -38,11 +42,15 @@ class Object<Empty>
 {
 public:
     Object() = default;
+
+    /// Shares the object, which is known as a T from then on; a null pointer makes a handle without one.
     template <class T>
     explicit Object(std::shared_ptr<T> object)
         : m_reference(object ? AnyReference::from(*object) : AnyReference()), m_owner(std::move(object))
     {
     }
+
+    /// Shares the object of a handle of its own class.
     template <class T>
     explicit Object(const Object<T>& handle) : Object(handle.pointer())
     {

@@ -20,6 +20,7 @@ class OpaqueType : public Native<T, UnknownTypeInterface>
 template <>
 struct NativeType<void>
 {
+    /// An interface of kind Void: there is no value, and no address of one.
     static const TypeInterface* make() { return detail::makeVoidType(); }
 };
 

@@ -29,8 +29,13 @@ public:
         std::memcpy(m_pointer, &member, sizeof member);
     }
 
+    /// The name that was given.
     const std::string& name() const noexcept { return m_name; }
+
+    /// Asked for anew on every call: the type may become known later than the member.
     const TypeInterface* type() const { return m_type(); }
+
+    /// The member in `object`; for reading only when it is a const one.
     AnyReference of(T& object) const { return m_reference(*this, object); }
 
 private:
@@ -52,8 +57,8 @@ private:
 template <class T>
 struct Schema
 {
-    std::string className;
-    std::vector<Member<T>> members;
+    std::string className;          ///< not empty, and no other type's
+    std::vector<Member<T>> members; ///< no two of one name; there may be none
 };
 
 /// Specialised beside the class, wherever it is used with the type system, this makes T known on its first use:
@@ -151,6 +156,8 @@ bool registerStruct(std::string className, std::vector<Member<T>> members)
 template <class T>
 struct NativeType<T, std::void_t<decltype(StructSchema<T>::describe())>>
 {
+    /// Makes the struct known under its class name too, unless that is taken. Throws what describe() throws, and like
+    /// makeStruct().
     static const TypeInterface* make()
     {
         auto type = std::make_unique<detail::NativeStruct<T>>(StructSchema<T>::describe());

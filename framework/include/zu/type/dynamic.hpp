@@ -21,6 +21,7 @@ public:
     virtual bool ownsContent() const noexcept;
 
 protected:
+    /// For implementations, which say their wordSize().
     explicit DynamicTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : TypeInterface(info, TypeKind::Dynamic, wordSize)
     {

@@ -12,10 +12,14 @@ class ZU_EXPORT FunctionTypeInterface : public TypeInterface
 public:
     ~FunctionTypeInterface() override;
 
+    /// Never null; of kind Void for a function that returns nothing.
     virtual const TypeInterface* resultType() const = 0;
+
+    /// In the order of the parameters; empty for a function without any.
     virtual std::vector<const TypeInterface*> parameterTypes() const = 0;
 
 protected:
+    /// For implementations, which say their wordSize().
     explicit FunctionTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : TypeInterface(info, TypeKind::Function, wordSize)
     {
@@ -28,9 +32,11 @@ class ZU_EXPORT SignalTypeInterface : public TypeInterface
 public:
     ~SignalTypeInterface() override;
 
+    /// The types of what the signal carries, in order; empty when it carries nothing.
     virtual std::vector<const TypeInterface*> parameterTypes() const = 0;
 
 protected:
+    /// For implementations, which say their wordSize().
     explicit SignalTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : TypeInterface(info, TypeKind::Signal, wordSize)
     {
@@ -43,9 +49,11 @@ class ZU_EXPORT PropertyTypeInterface : public TypeInterface
 public:
     ~PropertyTypeInterface() override;
 
+    /// The type of the value; never null.
     virtual const TypeInterface* valueType() const = 0;
 
 protected:
+    /// For implementations, which say their wordSize().
     explicit PropertyTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : TypeInterface(info, TypeKind::Property, wordSize)
     {

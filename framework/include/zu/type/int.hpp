@@ -21,7 +21,7 @@ struct Enumerator
     {
     }
 
-    std::string name;
+    std::string name;    ///< any text; of two that are equal numberOf() finds the first
     std::int64_t number; ///< in the form that IntTypeInterface::get() gives
 };
 
@@ -33,6 +33,8 @@ public:
 
     /// Bytes of a value; 0 for bool.
     virtual unsigned byteSize() const noexcept = 0;
+
+    /// Whether there are numbers below 0: not for bool; for an enumeration as its underlying type has it.
     virtual bool isSigned() const noexcept = 0;
 
     /// The value; of an unsigned type of 8 bytes its bits, to be cast to std::uint64_t.
@@ -56,6 +58,7 @@ public:
     std::optional<std::int64_t> numberOf(std::string_view name) const noexcept;
 
 protected:
+    /// For implementations, which say their wordSize().
     explicit IntTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : TypeInterface(info, TypeKind::Int, wordSize)
     {

@@ -21,6 +21,7 @@ public:
     virtual bool equals(const void* a, const void* b) const = 0;
 
 protected:
+    /// For implementations, which say their wordSize().
     explicit IteratorTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : TypeInterface(info, TypeKind::Iterator, wordSize)
     {

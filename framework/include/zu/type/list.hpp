@@ -15,11 +15,16 @@ public:
 
     ~ListTypeInterface() override;
 
+    /// Never null; of kind Unknown for elements that nothing more is known of.
     virtual const TypeInterface* elementType() const = 0;
+
+    /// The number of the elements; 0 for an empty list.
     virtual std::size_t size(const void* list) const = 0;
 
     /// Iterators hold what the container's own ones hold, and are invalidated with those.
     virtual AnyIterator begin(void* list) const = 0;
+
+    /// The position behind the last element; equal to begin() when the list is empty.
     virtual AnyIterator end(void* list) const = 0;
 
     /// The element at `index`, which is less than size(). Takes time in proportion to it where the container does.
@@ -52,6 +57,7 @@ public:
     virtual bool clear(void* list) const;
 
 protected:
+    /// For implementations, which say their wordSize().
     explicit ListTypeInterface(const TypeInfo& info, std::size_t wordSize = 0, TypeKind kind = TypeKind::List)
         : TypeInterface(info, kind, wordSize)
     {
@@ -65,6 +71,7 @@ public:
     ~VarArgsTypeInterface() override;
 
 protected:
+    /// For implementations, which say their wordSize().
     explicit VarArgsTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : ListTypeInterface(info, wordSize, TypeKind::VarArgs)
     {

@@ -14,12 +14,19 @@ public:
 
     ~MapTypeInterface() override;
 
+    /// The type of the keys that find(), insertMoved() and erase() take; never null.
     virtual const TypeInterface* keyType() const = 0;
+
+    /// The type of the values that insertMoved() takes; never null.
     virtual const TypeInterface* valueType() const = 0;
+
+    /// The number of the entries; 0 for an empty map.
     virtual std::size_t size(const void* map) const = 0;
 
     /// Iterators over entries, in the map's order; invalidated with the container's own ones.
     virtual AnyIterator begin(void* map) const = 0;
+
+    /// The position behind the last entry; equal to begin() when the map is empty.
     virtual AnyIterator end(void* map) const = 0;
 
     /// The value filed under `key`, a value of keyType(); an empty reference when there is none.
@@ -37,9 +44,11 @@ public:
     /// @return false when there is none.
     virtual bool erase(void* map, const void* key) const = 0;
 
+    /// Removes all entries; references to them and iterators become invalid.
     virtual void clear(void* map) const = 0;
 
 protected:
+    /// For implementations, which say their wordSize().
     explicit MapTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : TypeInterface(info, TypeKind::Map, wordSize)
     {

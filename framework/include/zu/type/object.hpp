@@ -11,6 +11,7 @@ public:
     ~ObjectTypeInterface() override;
 
 protected:
+    /// For implementations, which say their wordSize().
     explicit ObjectTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : TypeInterface(info, TypeKind::Object, wordSize)
     {

@@ -17,7 +17,11 @@ class ZU_EXPORT PointerTypeInterface : public TypeInterface
 public:
     ~PointerTypeInterface() override;
 
+    /// The same for all values of the type.
     virtual PointerKind pointerKind() const noexcept = 0;
+
+    /// The declared type of what is pointed to; never null, of kind Void where nothing is known of that, as behind a
+    /// `void*`.
     virtual const TypeInterface* pointedType() const = 0;
 
     /// Where it points to; null for a null pointer.
@@ -28,6 +32,7 @@ public:
     virtual AnyReference dereference(const void* pointer) const = 0;
 
 protected:
+    /// For implementations, which say their wordSize().
     explicit PointerTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : TypeInterface(info, TypeKind::Pointer, wordSize)
     {

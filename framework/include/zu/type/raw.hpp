@@ -19,6 +19,7 @@ public:
     virtual void set(void* value, std::string_view bytes) const = 0;
 
 protected:
+    /// For implementations, which say their wordSize().
     explicit RawTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : TypeInterface(info, TypeKind::Raw, wordSize)
     {

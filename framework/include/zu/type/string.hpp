@@ -23,6 +23,7 @@ public:
     virtual void set(void* value, std::string_view text) const = 0;
 
 protected:
+    /// For implementations, which say their wordSize().
     explicit StringTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : TypeInterface(info, TypeKind::String, wordSize)
     {

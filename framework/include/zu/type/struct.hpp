@@ -48,6 +48,7 @@ public:
     std::string name() const override;
 
 protected:
+    /// For implementations, which say their wordSize().
     explicit StructTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : TypeInterface(info, TypeKind::Tuple, wordSize)
     {

@@ -48,7 +48,10 @@ public:
     TypeInterface& operator=(const TypeInterface&) = delete;
     virtual ~TypeInterface();
 
+    /// What types are to be compared by: there may be several interfaces of one type.
     const TypeInfo& info() const noexcept { return m_info; }
+
+    /// Tells which interface of a kind this one can be cast to.
     TypeKind kind() const noexcept { return m_kind; }
 
     /// The size of a value that AnyValue may hold in place, copied as bytes; 0 when values are held by pointer.
@@ -68,6 +71,7 @@ public:
     /// Like clone(), and may leave `value` moved from.
     virtual void* take(void* value) const;
 
+    /// Destroys and frees what initializeStorage(), clone() or take() gave.
     virtual void destroy(void* value) const = 0;
 
     /// Copies `source` over `target`, which may be the same object.
@@ -78,6 +82,8 @@ public:
     virtual bool assignMoved(void* target, void* source) const;
 
 protected:
+    /// For implementations. A `wordSize` other than 0 promises that values are of so many bytes, at most 8, that these
+    /// may be copied to any place aligned to 8, and that nothing is to be done when such a copy goes.
     TypeInterface(const TypeInfo& info, TypeKind kind, std::size_t wordSize = 0)
         : m_info(info), m_kind(kind), m_wordSize(wordSize)
     {

@@ -11,6 +11,7 @@ public:
     ~UnknownTypeInterface() override;
 
 protected:
+    /// For implementations, which say their wordSize().
     explicit UnknownTypeInterface(const TypeInfo& info, std::size_t wordSize = 0)
         : TypeInterface(info, TypeKind::Unknown, wordSize)
     {

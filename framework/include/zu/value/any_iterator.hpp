@@ -24,11 +24,11 @@ struct Adjacent;
 class ZU_EXPORT AnyIterator
 {
 public:
-    using iterator_category = std::input_iterator_tag;
-    using value_type = AnyReference;
-    using difference_type = std::ptrdiff_t;
-    using pointer = void;
-    using reference = AnyReference;
+    using iterator_category = std::input_iterator_tag; ///< no more than that, for references are made when asked for
+    using value_type = AnyReference;                   ///< refers to an element and does not hold it
+    using difference_type = std::ptrdiff_t;            ///< for algorithms: positions cannot be subtracted
+    using pointer = void;                              ///< there is no operator->()
+    using reference = AnyReference;                    ///< given by value
 
     /// No position; equal to another such.
     AnyIterator() noexcept = default;
@@ -48,6 +48,7 @@ public:
         return m_readOnly ? element.readOnly() : element;
     }
 
+    /// Goes to the next position; at the end it throws and stays there.
     AnyIterator& operator++()
     {
         if (!m_elementType)
@@ -58,6 +59,8 @@ public:
             m_current += m_stride;
         return *this;
     }
+
+    /// Gives a copy of the position before.
     AnyIterator operator++(int)
     {
         AnyIterator before = *this;
@@ -72,6 +75,8 @@ public:
             return a.m_current == b.m_current;
         return a.equals(b);
     }
+
+    /// Whether they stand at different positions.
     friend bool operator!=(const AnyIterator& a, const AnyIterator& b) { return !(a == b); }
 
     /// The position as a value of kind Iterator; empty for a default-made one.
@@ -79,6 +84,8 @@ public:
 
     /// The same position with elements for reading only.
     AnyIterator readOnly() const&;
+
+    /// The same, without copying the position.
     AnyIterator readOnly() &&;
 
 private:

@@ -24,7 +24,7 @@ namespace zu {
 class ZU_EXPORT AnyReferenceBase
 {
 public:
-    bool isEmpty() const noexcept { return m_tagged == 0; }
+    bool isEmpty() const noexcept { return m_tagged == 0; } ///< whether there is no type
 
     /// The interface of the value, null when empty.
     const TypeInterface* type() const noexcept
@@ -65,21 +65,19 @@ public:
     template <class T>
     std::optional<T> tryTo() const;
 
-    /// to<std::int64_t>(), to<double>() and to<std::string>().
-    std::int64_t toInt() const;
-    double toDouble() const;
-    std::string toString() const;
+    std::int64_t toInt() const;   ///< to<std::int64_t>()
+    double toDouble() const;      ///< to<double>()
+    std::string toString() const; ///< to<std::string>(), which does not print numbers
 
-    /// The bytes of a value of kind String or Raw, in place.
-    std::string_view text() const;
-    std::string_view rawBuffer() const;
+    std::string_view text() const;      ///< the bytes of a value of kind String, in place
+    std::string_view rawBuffer() const; ///< the bytes of a value of kind Raw, in place
 
     /// The number of elements of a list, a map or variable arguments, or of the members of a tuple.
     std::size_t size() const;
 
     /// The elements of a list or variable arguments, the entries of a map; as a pair these can be ranged over.
     AnyIterator begin() const;
-    AnyIterator end() const;
+    AnyIterator end() const; ///< behind the last one; equal to begin() where there are none
 
     /// The member of a struct that has a name. Throws std::out_of_range, with the names that there are, for any other.
     AnyReference member(std::string_view name) const;
@@ -102,6 +100,7 @@ public:
     AnyReference content() const;
 
 protected:
+    /// @cond
     static constexpr std::uintptr_t k_readOnly = 1;
 
     AnyReferenceBase() noexcept = default;
@@ -116,6 +115,7 @@ protected:
     /// A type's address with k_readOnly in its lowest bit, which is free: interfaces are aligned to words.
     std::uintptr_t m_tagged = 0;
     void* m_address = nullptr;
+    /// @endcond
 
 private:
     bool isOf(const TypeInfo& info) const { return type()->info() == info && !info.isAnonymous(); }
@@ -183,7 +183,7 @@ public:
     /// Sets the value to `source` converted to its type. Throws ConversionError when it does not convert; the value is
     /// then as it was.
     void set(const AnyReferenceBase& source) const;
-    void set(const AnyArgument& source) const;
+    void set(const AnyArgument& source) const; ///< the same for an object
 
     /// @name Changing containers
     ///
@@ -234,8 +234,10 @@ ZU_EXPORT bool convertIfPossible(const AnyReferenceBase& source, const AnyRefere
 class AnyArgument
 {
 public:
+    /// What `value` refers to, which may be nothing.
     AnyArgument(const AnyReferenceBase& value) noexcept : m_value(value) {} // NOLINT(google-explicit-constructor)
 
+    /// The object itself; it is not copied, but for a C string.
     template <class T, class = std::enable_if_t<!std::is_base_of_v<AnyReferenceBase, T>>>
     AnyArgument(const T& object) // NOLINT(google-explicit-constructor)
     {
@@ -248,7 +250,7 @@ public:
     AnyArgument(const AnyArgument&) = delete;
     AnyArgument& operator=(const AnyArgument&) = delete;
 
-    const AnyReference& value() const noexcept { return m_value; }
+    const AnyReference& value() const noexcept { return m_value; } ///< empty for an empty reference
 
 private:
     std::optional<std::string> m_text;
@@ -288,5 +290,5 @@ std::optional<T> AnyReferenceBase::tryTo() const
 template <>
 struct std::hash<zu::AnyReference>
 {
-    std::size_t operator()(const zu::AnyReference& value) const { return value.hash(); }
+    std::size_t operator()(const zu::AnyReference& value) const { return value.hash(); } ///< see hash()
 };

@@ -31,13 +31,20 @@ public:
     /// A copy of what `source` refers to; empty when that is empty.
     explicit AnyValue(const AnyReferenceBase& source);
 
+    /// A deep copy. Throws std::logic_error when the type cannot be copied, and what the copying throws.
     AnyValue(const AnyValue& other) : AnyReferenceBase(other) { copyFrom(other); }
+
+    /// Takes over the value; `other` is empty then.
     AnyValue(AnyValue&& other) noexcept : AnyReferenceBase() { takeFrom(other); }
+
+    /// Replaces value and type by a deep copy; when the copying throws, both are as they were.
     AnyValue& operator=(const AnyValue& other)
     {
         AnyValue(other).swap(*this);
         return *this;
     }
+
+    /// Takes over value and type; `other` is empty then, but for one that is assigned to itself.
     AnyValue& operator=(AnyValue&& other) noexcept
     {
         AnyValue(std::move(other)).swap(*this);
@@ -66,6 +73,8 @@ public:
     {
         return this->template holds<T>() ? static_cast<T*>(m_address) : nullptr;
     }
+
+    /// The same for reading only.
     template <class T>
     const T* getIf() const
     {
@@ -79,6 +88,7 @@ public:
     /// Empties it.
     void reset() noexcept { clear(); }
 
+    /// Exchanges values and types; references to either become invalid.
     void swap(AnyValue& other) noexcept;
 
 private:
@@ -107,6 +117,7 @@ private:
     alignas(std::uint64_t) unsigned char m_word[sizeof(std::uint64_t)] = {};
 };
 
+/// Like AnyValue::swap().
 inline void swap(AnyValue& a, AnyValue& b) noexcept { a.swap(b); }
 
 inline void AnyValue::takeFrom(AnyValue& other) noexcept
@@ -155,5 +166,6 @@ AnyValue AnyValue::from(T&& object)
 template <>
 struct std::hash<zu::AnyValue>
 {
+    /// That of AnyReferenceBase::hash().
     std::size_t operator()(const zu::AnyValue& value) const { return value.hash(); }
 };

@@ -25,10 +25,20 @@ ZU_EXPORT int compare(const AnyReferenceBase& a, const AnyReferenceBase& b);
 
 /// Whether compare() gives 0; finds containers of different sizes unequal without looking into them.
 ZU_EXPORT bool operator==(const AnyReferenceBase& a, const AnyReferenceBase& b);
+
+/// Whether operator==() says no.
 inline bool operator!=(const AnyReferenceBase& a, const AnyReferenceBase& b) { return !(a == b); }
+
+/// Whether compare() gives less than 0.
 inline bool operator<(const AnyReferenceBase& a, const AnyReferenceBase& b) { return compare(a, b) < 0; }
+
+/// Whether compare() gives more than 0.
 inline bool operator>(const AnyReferenceBase& a, const AnyReferenceBase& b) { return compare(a, b) > 0; }
+
+/// Whether compare() gives at most 0.
 inline bool operator<=(const AnyReferenceBase& a, const AnyReferenceBase& b) { return compare(a, b) <= 0; }
+
+/// Whether compare() gives at least 0.
 inline bool operator>=(const AnyReferenceBase& a, const AnyReferenceBase& b) { return compare(a, b) >= 0; }
 
 /// Writes a value for people, whatever the format of the stream:
