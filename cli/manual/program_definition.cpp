@@ -6,9 +6,9 @@ namespace zu::cli {
 
 bool OptionDefinition::takesFiles() const
 {
-    constexpr const char* k_words[] = {"FILE", "FOLDER", "DIR"};
-    return std::any_of(std::begin(k_words), std::end(k_words),
-                       [this](const char* word) { return value.find(word) != std::string::npos; });
+    constexpr const char* k_placeholders[] = {"FILE", "FOLDER", "DIR"};
+    return std::any_of(std::begin(k_placeholders), std::end(k_placeholders),
+                       [this](const char* placeholder) { return value.find(placeholder) != std::string::npos; });
 }
 
 } // namespace zu::cli
