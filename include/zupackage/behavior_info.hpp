@@ -40,6 +40,7 @@ public:
 
     /// A behavior with empty texts, maps and lists, not user-requestable.
     BehaviorInfo();
+    /// A deep copy; empty lists that triggerSentences() and the like have made in `other` are copied, too.
     BehaviorInfo(const BehaviorInfo& other);
     /// Decodes what toVXValue() encodes: an Array of pairs, found by their keys, in any order; pairs of other keys are
     /// ignored. A value that is no Array gives an empty behavior; what is wrong inside one throws VX::VXError. Of
@@ -54,12 +55,16 @@ public:
     BehaviorInfo operator=(const BehaviorInfo& other);
 
     /// Path of the behavior inside the package.
+    /// @{
     std::string path() const;
     void setPath(const std::string& path);
+    /// @}
 
     /// The kind of behavior: natureInteractive() or natureSolitary(), but any text is kept as given.
+    /// @{
     std::string nature() const;
     void setNature(const std::string& nature);
+    /// @}
 
     /// "interactive"
     static const std::string& natureInteractive();
@@ -67,8 +72,10 @@ public:
     static const std::string& natureSolitary();
 
     /// Whether a user may request the behavior.
+    /// @{
     bool isUserRequestable() const;
     void setUserRequestable(bool requestable);
+    /// @}
 
     /// Display names by language.
     const std::map<std::string, std::string>& names() const;
@@ -87,52 +94,73 @@ public:
 
     /// @name Tags by language
     ///
-    /// The four families of lists (tags, trigger sentences, loading responses, conditions) have the same operations:
-    /// - add appends; equal and empty texts are accepted, an absent list is created.
-    /// - insert puts the value before the element at `position`; a position that names no element appends.
-    /// - remove takes away the first equal element. False when there is none; the list stays, even when it becomes
-    /// empty.
-    /// - update replaces the first equal element where it stands. False, and nothing is created, when there is none.
+    /// The four families of lists (tags, trigger sentences, loading responses, conditions) have the same operations.
     /// @{
+
     /// A copy of the tags of `lang`; empty, and nothing is created, when there are none.
     std::list<std::string> tags(const std::string& lang) const;
+    /// The lists of all languages, empty ones included.
     const std::map<std::string, std::list<std::string>>& languagesToTags() const;
+    /// Appends a tag, equal and empty ones included; an absent list is created.
     void addTag(const std::string& tag, const std::string& lang);
+    /// Puts a tag before the one at `position`, counted from 0; a position that names none appends. An absent list is
+    /// created.
     void insertTag(const std::string& tag, const std::string& lang, int position);
+    /// Takes away the first tag equal to `tag`; the list stays, even when it becomes empty.
+    /// @return false when there is none.
     bool removeTag(const std::string& tag, const std::string& lang);
+    /// Replaces the first tag equal to `oldTag`; its place in the list is kept.
+    /// @return false, and nothing is created, when there is none.
     bool updateTag(const std::string& oldTag, const std::string& newTag, const std::string& lang);
     /// @}
 
     /// @name Sentences that start the behavior, by language
     /// @{
+
     /// A copy of the sentences of `lang`. When there is no list for `lang` an empty one is created, although the
     /// function is const: dumps and written manifests of existing callers show the entry, so it is kept.
     std::list<std::string> triggerSentences(const std::string& lang) const;
+    /// The lists of all languages, empty ones included.
     const std::map<std::string, std::list<std::string>>& languagesToTriggerSentences() const;
+    /// As addTag().
     void addTriggerSentence(const std::string& sentence, const std::string& lang);
+    /// As insertTag().
     void insertTriggerSentence(const std::string& sentence, const std::string& lang, int position);
+    /// As removeTag().
     bool removeTriggerSentence(const std::string& sentence, const std::string& lang);
+    /// As updateTag().
     bool updateTriggerSentence(const std::string& oldSentence, const std::string& newSentence, const std::string& lang);
     /// @}
 
     /// @name Sentences said while the behavior loads, by language
     /// @{
+
     /// A copy of the responses of `lang`; creates an absent list, as triggerSentences() does.
     std::list<std::string> loadingResponses(const std::string& lang) const;
+    /// The lists of all languages, empty ones included.
     const std::map<std::string, std::list<std::string>>& languagesToLoadingResponses() const;
+    /// As addTag().
     void addLoadingResponse(const std::string& response, const std::string& lang);
+    /// As insertTag().
     void insertLoadingResponse(const std::string& response, const std::string& lang, int position);
+    /// As removeTag().
     bool removeLoadingResponse(const std::string& response, const std::string& lang);
+    /// As updateTag().
     bool updateLoadingResponse(const std::string& oldResponse, const std::string& newResponse, const std::string& lang);
     /// @}
 
     /// @name Conditions under which the behavior may start by itself, by purpose
     /// @{
+
     /// A copy of the conditions for `purpose`; creates an absent list, as triggerSentences() does.
     std::list<std::string> conditions(const std::string& purpose) const;
+    /// As addTag().
     void addCondition(const std::string& condition, const std::string& purpose);
+    /// As insertTag().
     void insertCondition(const std::string& condition, const std::string& purpose, int position);
+    /// As removeTag().
     bool removeCondition(const std::string& condition, const std::string& purpose);
+    /// As updateTag().
     bool updateCondition(const std::string& oldCondition, const std::string& newCondition, const std::string& purpose);
     /// @}
 
@@ -141,6 +169,7 @@ public:
     /// Claims a permission.
     /// @return false, and nothing changes, when it is claimed already or is not one of supportedPermissions().
     bool addPermission(const std::string& permission);
+    /// Whether the behavior claims exactly this one; decoded behaviors may claim some that are not supported.
     bool hasPermission(const std::string& permission) const;
     /// @return false when the permission was not claimed.
     bool removePermission(const std::string& permission);

@@ -33,6 +33,7 @@ class ZUPACKAGE_EXPORT DialogInfo
 public:
     /// A dialog with empty texts and no topic files.
     DialogInfo();
+    /// A deep copy, which shares nothing with `other`.
     DialogInfo(const DialogInfo& other);
     /// Decodes what toVXValue() encodes, by position. A value that is no Array of exactly three elements gives an empty
     /// dialog; what is wrong inside one throws VX::VXError. A Binary in `value` that is read as a text becomes a
@@ -46,12 +47,16 @@ public:
     DialogInfo operator=(const DialogInfo& other);
 
     /// Name of the topic.
+    /// @{
     const std::string& topicName() const;
     void setTopicName(const std::string& topicName);
+    /// @}
 
     /// Version of the topic files' type.
+    /// @{
     const std::string& typeVersion() const;
     void setTypeVersion(const std::string& typeVersion);
+    /// @}
 
     /// Paths of the topic files inside the package, by language.
     const std::map<std::string, std::string>& topics() const;
@@ -83,8 +88,10 @@ private:
 };
 
 /// Equal when topic name, type version and all topic files are equal, byte by byte.
+/// @{
 ZUPACKAGE_EXPORT bool operator==(const DialogInfo& left, const DialogInfo& right);
 ZUPACKAGE_EXPORT bool operator!=(const DialogInfo& left, const DialogInfo& right);
+/// @}
 
 /// Prints the dialog for people, an item a line, flushed line by line.
 ZUPACKAGE_EXPORT std::ostream& operator<<(std::ostream& out, const DialogInfo& dialog);

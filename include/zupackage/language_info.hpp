@@ -26,6 +26,7 @@ class ZUPACKAGE_EXPORT LanguageInfo
 public:
     /// A language with empty texts and no names.
     LanguageInfo();
+    /// A deep copy, which shares nothing with `other`.
     LanguageInfo(const LanguageInfo& other);
     /// Decodes what toVXValue() encodes, by position. The shape is not looked at first: a value that is no Array, or
     /// has less than five pairs, throws VX::VXError; further pairs are ignored. A Binary in `value` that is read as a
@@ -38,20 +39,28 @@ public:
     LanguageInfo operator=(const LanguageInfo& other);
 
     /// Path of the language's data inside the package.
+    /// @{
     std::string path() const;
     void setPath(const std::string& path);
+    /// @}
 
     /// Name of the speech engine that the data are made for.
+    /// @{
     std::string engineName() const;
     void setEngineName(const std::string& engineName);
+    /// @}
 
     /// Version of that engine.
+    /// @{
     std::string engineVersion() const;
     void setEngineVersion(const std::string& engineVersion);
+    /// @}
 
     /// The language itself, as an ISO 639 code.
+    /// @{
     std::string locale() const;
     void setLocale(const std::string& locale);
+    /// @}
 
     /// The display name of this language in exactly `lang`; empty when there is none. The map of all names is not
     /// offered; the dump shows it.

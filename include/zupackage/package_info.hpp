@@ -26,7 +26,7 @@ namespace zu {
 /// A robot hardware that a package needs. Versions are texts; nothing here compares or parses them.
 struct ZUPACKAGE_EXPORT RobotRequirement
 {
-    std::string model;
+    std::string model;          ///< what the robot's model is called
     std::string minHeadVersion; ///< lowest accepted
     std::string maxHeadVersion; ///< highest accepted
     std::string minBodyVersion; ///< lowest accepted
@@ -43,8 +43,8 @@ struct ZUPACKAGE_EXPORT MorvoRequirement
 /// A service that a package declares.
 struct ZUPACKAGE_EXPORT PackageService
 {
-    std::string execStart; ///< command line that starts the service
-    std::string name;
+    std::string execStart;                      ///< command line that starts the service
+    std::string name;                           ///< what the service is called
     bool autoRun = false;                       ///< whether the service starts automatically
     std::map<std::string, std::string> envVars; ///< environment variables: name to value
 };
@@ -80,7 +80,9 @@ struct PackageInfoPrivate;
 ///
 /// Texts are UTF-8. Language codes are keys exactly as given: compared byte by byte, never normalised, and a look-up
 /// never falls back to another language. Lists keep insertion order and hold duplicates, except the two language lists.
-/// Setters take the value first and the language last. Versions and dates are texts that nothing parses.
+/// Setters keep whatever they are given, and take the value first and the language last. Versions and dates are texts
+/// that nothing parses. References from accessors without arguments are valid as long as the package, and show its
+/// changes.
 ///
 /// A package owns its content; a copy is deep and independent. There are no move operations: a moved-from package would
 /// be left without content. Not synchronised: one object may be read by several threads while none writes it (for
@@ -97,6 +99,7 @@ class ZUPACKAGE_EXPORT PackageInfo
 public:
     /// A package with empty texts, maps and lists, not for installation at start-up only.
     PackageInfo();
+    /// A deep copy: of texts, maps and every element of the lists.
     PackageInfo(const PackageInfo& other);
     /// Decodes what toVXValue() encodes, by position. The last pair, or the last two, may be missing, as older programs
     /// send it. A value that is no Array of 18 to 20 elements gives an empty package; what is wrong inside one throws
@@ -114,40 +117,65 @@ public:
     /// @return a further copy, by value: callers built against this signature rely on it.
     PackageInfo operator=(const PackageInfo& other);
 
-    /// Identifier of the package.
+    /// What installers and stores know the package by. Without it toVXValue() gives an empty Array.
+    /// @{
     const std::string& uuid() const;
     void setUuid(const std::string& uuid);
+    /// @}
 
+    /// Version of the package, as any text.
+    /// @{
     const std::string& version() const;
     void setVersion(const std::string& version);
+    /// @}
 
+    /// Who wrote the package.
+    /// @{
     const std::string& author() const;
     void setAuthor(const std::string& author);
+    /// @}
 
     /// Distribution channel.
+    /// @{
     const std::string& channel() const;
     void setChannel(const std::string& channel);
+    /// @}
 
+    /// Whom the package comes from.
+    /// @{
     const std::string& organization() const;
     void setOrganization(const std::string& organization);
+    /// @}
 
+    /// When this version was made, as any text.
+    /// @{
     const std::string& date() const;
     void setDate(const std::string& date);
+    /// @}
 
     /// Version of the manifest format.
+    /// @{
     const std::string& typeVersion() const;
     void setTypeVersion(const std::string& typeVersion);
+    /// @}
 
     /// Identifier of the package's installer; not part of the manifest document.
+    /// @{
     const std::string& installer() const;
     void setInstaller(const std::string& installer);
+    /// @}
 
     /// Where the package lies on disk; not part of the manifest document.
+    /// @{
     const std::string& path() const;
     void setPath(const std::string& path);
+    /// @}
 
+    /// Whether the package is installed while the robot starts, and never while it runs.
+    /// @{
     const bool& installOnlyAtStartup() const;
     void setInstallOnlyAtStartup(const bool& installOnlyAtStartup);
+    /// @}
 
     /// The display name in exactly `lang`; when there is none, an empty text that lives as long as the process.
     const std::string& name(const std::string& lang) const;
@@ -161,6 +189,7 @@ public:
     const std::map<std::string, std::string>& names() const;
     /// Descriptions by language.
     const std::map<std::string, std::string>& descriptions() const;
+    /// Removes all display names. For the descriptions there is trimExtraInfo() alone.
     void clearNames();
 
     /// The languages that the package supports.
@@ -169,6 +198,7 @@ public:
     void addSupportedLanguage(const std::string& lang);
     /// Removes every element equal to `lang`.
     void removeSupportedLanguage(const std::string& lang);
+    /// Removes all; trimExtraInfo() then leaves no tag, trigger sentence or loading response.
     void clearSupportedLanguages();
 
     /// The languages in which the package is described.
@@ -177,40 +207,59 @@ public:
     void addDescriptionLanguage(const std::string& lang);
     /// Removes every element equal to `lang`.
     void removeDescriptionLanguage(const std::string& lang);
+    /// Removes all; trimExtraInfo() then leaves no name and no description.
     void clearDescriptionLanguages();
 
+    /// The behaviors, in the order in which they were added; those of a mutable package may be changed in place.
+    /// @{
     const std::list<BehaviorInfo>& behaviors() const;
     std::list<BehaviorInfo>& behaviors();
+    /// @}
+    /// Appends a copy, whatever paths the others have.
     void addBehavior(const BehaviorInfo& behavior);
+    /// Empties the list; references to its elements become invalid.
     void clearBehaviors();
     /// Whether the package has any behavior.
     bool hasBehavior() const;
 
+    /// The dialog topics, in the order in which they were added. To change one, clear the list and add them again.
     const std::list<DialogInfo>& dialogs() const;
+    /// Appends a copy, whatever topic names the others have.
     void addDialog(const DialogInfo& dialog);
+    /// Empties the list; references to its elements become invalid.
     void clearDialogs();
 
     /// The speech languages that the package installs; not the languages that it supports.
     const std::list<LanguageInfo>& languages() const;
+    /// Appends a copy, which no operation takes away again.
     void addLanguage(const LanguageInfo& language);
 
     /// The robots that the package runs on. The list is the package's own and mutable, even from a const package.
     std::list<RobotRequirement>& robotRequirements() const;
+    /// Appends a copy, whatever models the others name.
     void addRobotRequirement(const RobotRequirement& requirement);
+    /// Empties the list; references to its elements become invalid.
     void clearRobotRequirements();
 
     /// The middleware versions that the package runs on. The list is the package's own and mutable, even from a const
     /// package.
     std::list<MorvoRequirement>& morvoRequirements() const;
+    /// Appends a copy, whatever ranges the others have.
     void addMorvoRequirement(const MorvoRequirement& requirement);
+    /// Empties the list; references to its elements become invalid.
     void clearMorvoRequirements();
 
+    /// The services that the package declares, in the order in which they were added. To change one, clear the list and
+    /// add them again.
     const std::list<PackageService>& services() const;
+    /// Appends a copy, whatever names the others have.
     void addService(const PackageService& service);
+    /// Empties the list; references to its elements become invalid.
     void clearServices();
 
     /// Paths of the files to be made executable.
     const std::list<std::string>& executableFiles() const;
+    /// Appends the path, even one that is in the list; no operation takes it away again.
     void addExecutableFile(const std::string& path);
 
     /// Removes the names and descriptions whose language is not kept by descriptionLanguages(): a language is kept when
@@ -236,6 +285,7 @@ public:
     /// @return false when the document cannot be opened or is refused. An error with the reason is then written to the
     /// log category "zupackage", and the object is as it was.
     /// @{
+
     /// From UTF-8 text; a zero byte does not end it.
     bool loadFromManifestContent(const std::string& content);
     /// From a file that is not open (one that is cannot be opened again, is refused, and stays open); it is closed
@@ -257,6 +307,7 @@ public:
     /// feed and carriage return, U+FFFE, U+FFFF) is written as U+FFFD, and so is what is no UTF-8; a permission that
     /// cannot be an element's name is left out.
     /// @{
+
     /// The document as UTF-8 text, indented by one space a level. Not const, unlike the two below: existing callers are
     /// built against this signature. The package is not changed.
     std::string saveToManifestContent();

@@ -60,10 +60,13 @@ struct ZUPACKAGE_EXPORT PackageInfo2
 {
     /// With empty texts and without elements, not for installation at start-up only.
     PackageInfo2();
+    /// Copying throws for values that are nested too deeply, see above; moving throws nothing.
+    /// @{
     PackageInfo2(const PackageInfo2& other);
     PackageInfo2(PackageInfo2&& other) noexcept;
     PackageInfo2& operator=(const PackageInfo2& other);
     PackageInfo2& operator=(PackageInfo2&& other) noexcept;
+    /// @}
     ~PackageInfo2();
 
     /// @name The contents, to read and to write
@@ -72,9 +75,14 @@ struct ZUPACKAGE_EXPORT PackageInfo2
     /// for an entry of the contents map that map, too. Nothing is converted: when what is stored is empty or of another
     /// type, std::runtime_error "Type mismatch" is thrown and nothing stored is changed.
     /// @{
+
+    /// The contents map itself, with the entries that the library does not know.
     std::map<std::string, AnyValue>& contents();
+    /// What stands under "behaviors" in the contents map.
     std::vector<BehaviorInfo>& behaviors();
+    /// What stands under "dialogs" in the contents map.
     std::vector<DialogInfo>& dialogs();
+    /// What stands under "languages" in the contents map: those that the package installs, not those that it supports.
     std::vector<LanguageInfo>& languages();
 
     /// Unlike the others this makes none, for a package has web content or has not: where there is none it throws, and
@@ -88,24 +96,30 @@ struct ZUPACKAGE_EXPORT PackageInfo2
     /// Copies, converted where what is stored is of another type; of an absent entry an empty one. Nothing is changed.
     /// Throws ConversionError when what is stored does not convert, an empty AnyValue included.
     /// @{
+
+    /// A copy of the whole contents map, with the entries that the library does not know.
     std::map<std::string, AnyValue> contents() const;
+    /// In the order of the document, or in that in which they were added.
     std::vector<BehaviorInfo> behaviors() const;
+    /// In the order of the document, or in that in which they were added.
     std::vector<DialogInfo> dialogs() const;
+    /// The speech languages that the package installs, not those that it supports.
     std::vector<LanguageInfo> languages() const;
+    /// With an empty path when the package has no web content.
     WebInfo web() const;
     /// @}
 
-    std::string uuid; ///< identifier of the package
-    std::string version;
-    std::string author;
-    std::string channel; ///< distribution channel
-    std::string organization;
-    std::string date;
-    std::string typeVersion; ///< version of the manifest format
-    std::string installer;   ///< identifier of the package's installer; not part of the manifest document
-    bool installOnlyAtStartup = false;
-    std::string path; ///< where the package lies on disk; not part of the manifest document
-    std::map<std::string, AnyValue> elements;
+    std::string uuid;                  ///< what installers and stores know the package by
+    std::string version;               ///< any text
+    std::string author;                ///< who wrote the package
+    std::string channel;               ///< distribution channel
+    std::string organization;          ///< whom the package comes from
+    std::string date;                  ///< when this version was made, as any text
+    std::string typeVersion;           ///< version of the manifest format
+    std::string installer;             ///< identifier of the package's installer; not part of the manifest document
+    bool installOnlyAtStartup = false; ///< installed while the robot starts, and never while it runs
+    std::string path;                  ///< where the package lies on disk; not part of the manifest document
+    std::map<std::string, AnyValue> elements; ///< all else, by the keys of the table above
 };
 
 /// Reads a manifest file, whose name is `path` in UTF-8, with the limits of PackageInfo::loadFromManifestFile(); the

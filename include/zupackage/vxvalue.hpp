@@ -31,10 +31,14 @@ using TVXValueBytes = std::vector<unsigned char>;
 class ZUPACKAGE_EXPORT VXError : public std::runtime_error
 {
 public:
+    /// `file` may be null: it and `line` are not kept.
     VXError(const std::string& module, const std::string& method, const std::string& message, const char* file,
             int line);
+    /// Copies say the same, and making them throws nothing.
+    /// @{
     VXError(const VXError&) noexcept = default;
     VXError& operator=(const VXError&) noexcept = default;
+    /// @}
     ~VXError() override;
 
 private:
@@ -60,12 +64,14 @@ private:
 class ZUPACKAGE_EXPORT VXValue
 {
 public:
+    /// @cond
     // For the templates below alone. Public because Clang 14 denies a friend's template arguments what the friend may
     // use.
     template <class T>
     static constexpr bool isFlag = std::is_same_v<T, bool> || std::is_same_v<T, std::vector<bool>::reference>;
     template <class T>
     static constexpr bool becomesVariant = !std::is_same_v<T, VXValue> && std::is_convertible_v<const T&, VXValue>;
+    /// @endcond
 
     /// The kind of a value. The numbers are part of the interface.
     enum class Type : std::uint32_t
@@ -82,6 +88,7 @@ public:
 
     /// Invalid.
     VXValue() noexcept {} // not defaulted: a const one needs no initialiser
+    /// A Bool, made of a flag or an element of std::vector<bool> alone.
     // Not explicit, as callers are used to.
     // A template, so that nothing that merely converts to bool, as any pointer does, becomes a Bool.
     template <class Flag, class = std::enable_if_t<isFlag<Flag>>>
@@ -89,9 +96,12 @@ public:
     {
         m_value.boolean = value;
     }
+    /// An Int, a Float, or a String of all bytes, zero ones included.
+    /// @{
     VXValue(int value) noexcept;          // NOLINT(google-explicit-constructor)
     VXValue(float value) noexcept;        // NOLINT(google-explicit-constructor)
     VXValue(const TVXValueString& value); // NOLINT(google-explicit-constructor)
+    /// @}
     /// A String of the characters up to the terminating zero. A null pointer throws.
     VXValue(const char* value); // NOLINT(google-explicit-constructor)
     /// A Binary of a copy of the `size` bytes at `data`. A null pointer to more than no bytes throws.
@@ -103,11 +113,14 @@ public:
     /// A Binary that takes over the bytes, with the room that they have.
     static VXValue fromBytes(TVXValueBytes bytes);
 
+    /// A copy of the whole tree. Throws VXError when an Object in it has no bytes.
     VXValue(const VXValue& other);
+    /// Takes over what `other` holds, which is Invalid then.
     VXValue(VXValue&& other) noexcept
         : m_type(std::exchange(other.m_type, Type::Invalid)), m_value(std::exchange(other.m_value, Payload()))
     {
     }
+    /// Makes this a copy, as the constructor does; `other` may be a part of it. When that throws, this is as it was.
     VXValue& operator=(const VXValue& other);
     /// A part of this may be moved into it, but not this into a part of itself.
     VXValue& operator=(VXValue&& other) noexcept
@@ -120,6 +133,8 @@ public:
     }
     /// Makes this a String of the characters up to the terminating zero. A null pointer throws.
     VXValue& operator=(const char* value);
+    /// Makes this a Bool, an Int or a Float, whatever it was.
+    /// @{
     // So that a literal 0 is the number, not a null pointer.
     template <class Flag, class = std::enable_if_t<isFlag<Flag>>>
     VXValue& operator=(Flag value) noexcept
@@ -128,12 +143,14 @@ public:
     }
     VXValue& operator=(int value) noexcept { return *this = VXValue(value); }
     VXValue& operator=(float value) noexcept { return *this = VXValue(value); }
+    /// @}
     ~VXValue()
     {
         if (m_type != Type::Invalid)
             clear();
     }
 
+    /// The kind of what it holds. Of a Binary that was read as a text it is String.
     Type type() const noexcept { return m_type; }
 
     /// The name of a type: "Invalid", "Array", "Bool", "Int", "Float", "String", "Object", "Binary". Throws for a
@@ -150,6 +167,7 @@ public:
     /// An element. The array never grows here: give it its size first. Throws VXError for a value of another type and
     /// when the array is too short, std::out_of_range for a negative index. Unless it is const, an Invalid value first
     /// becomes an empty Array, which is too short, and stays one.
+    /// @{
     VXValue& operator[](int index)
     {
         if (!hasElement(index))
@@ -162,6 +180,7 @@ public:
             failWithoutElement(index);
         return (*m_value.array)[static_cast<std::size_t>(index)];
     }
+    /// @}
 
     /// Whether an Array, String, Binary or Object is not empty, an Int or Float not zero, a Bool set. Throws for
     /// Invalid.
@@ -171,9 +190,8 @@ public:
     template <class Number, class = std::enable_if_t<std::is_arithmetic_v<Number> && !std::is_same_v<Number, bool>>>
     operator Number() const = delete; // NOLINT(google-explicit-constructor)
 
-    /// @name What a value of exactly that type holds
-    ///
-    /// For a value of another type, whatever it is, they throw as xAssertType() does where it is not lenient.
+    /// What a value of exactly that type holds. For a value of another type, whatever it is, they throw as
+    /// xAssertType() does where it is not lenient. The bytes are those in the value.
     /// @{
     int toInt() const;
     float toFloat() const;
@@ -183,10 +201,13 @@ public:
 
     /// Equal when both are of the same type and hold the same: by the number, byte by byte, element by element. A Float
     /// that is no number equals nothing. Of any depth, like copying.
+    /// @{
     friend bool operator==(const VXValue& left, const VXValue& right) { return left.equals(right); }
     friend bool operator!=(const VXValue& left, const VXValue& right) { return !left.equals(right); }
+    /// @}
 
     /// The same with what a value is made from: value == 42, value == "text".
+    /// @{
     template <class Other, class = std::enable_if_t<becomesVariant<Other>>>
     friend bool operator==(const VXValue& left, const Other& right)
     {
@@ -207,6 +228,7 @@ public:
     {
         return !right.equals(left);
     }
+    /// @}
 
     /// The text of a String; throws for other types.
     ///

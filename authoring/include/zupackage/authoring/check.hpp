@@ -27,7 +27,7 @@ struct CheckOptions
 /// What a check found, sorted by place, then by rule.
 struct CheckReport
 {
-    std::vector<Diagnostic> findings;
+    std::vector<Diagnostic> findings;   ///< at the severity that the options give to their rule, or else at its own
     std::vector<Diagnostic> suppressed; ///< those of rules that are switched off, at their own severity
     std::size_t omitted = 0;            ///< how many findings, at least, were above the limit of their rule
 };

@@ -21,8 +21,8 @@ enum class Severity
 /// A stretch of a document, as people, editors and machines name it.
 struct SourceRange
 {
-    ByteRange bytes;
-    Place begin;
+    ByteRange bytes;  ///< for machines, which count from 0
+    Place begin;      ///< that of the first character
     Place end;        ///< that of the first character after it
     std::string path; ///< of the element or attribute, in XPath notation; empty where the stretch belongs to none
 };
@@ -30,8 +30,8 @@ struct SourceRange
 /// Another place that a finding speaks of.
 struct RelatedPlace
 {
-    std::string message;
-    SourceRange range;
+    std::string message; ///< what it has to do with the finding
+    SourceRange range;   ///< where it is
 };
 
 /// How a machine can remove what was found.
@@ -47,12 +47,12 @@ struct Fix
 /// One finding of a check.
 struct Diagnostic
 {
-    std::string rule; ///< the id of the rule that found it
-    Severity severity = Severity::Error;
-    std::string message; ///< without a place and a full stop
-    SourceRange range;
-    std::vector<RelatedPlace> related;
-    std::optional<Fix> fix;
+    std::string rule;                    ///< the id of the rule that found it
+    Severity severity = Severity::Error; ///< as the options of the check have it
+    std::string message;                 ///< without a place and a full stop
+    SourceRange range;                   ///< what is to be underlined
+    std::vector<RelatedPlace> related; ///< such as the first of two entries that are the same; most findings have none
+    std::optional<Fix> fix;            ///< none when only the author can tell what to write
 };
 
 } // namespace zu::authoring

@@ -41,7 +41,7 @@ struct ZUPACKAGE_AUTHORING_EXPORT MatrixLanguage
     bool isSupported = false;   ///< declared for what the package says and hears: tags, sentences, responses, topics
     bool isDescription = false; ///< declared for names and descriptions
     bool isRequired = false;    ///< asked for by the caller: for everything
-    Coverage coverage;
+    Coverage coverage;          ///< over all rows of the matrix
 
     /// Neither declared nor required: the package has texts in it all the same.
     bool isStray() const { return !isSupported && !isDescription && !isRequired; }
@@ -52,27 +52,29 @@ struct ZUPACKAGE_AUTHORING_EXPORT MatrixLanguage
 /// One kind of text of one part of a package.
 struct ZUPACKAGE_AUTHORING_EXPORT MatrixRow
 {
-    TextKind kind = TextKind::Names;
+    TextKind kind = TextKind::Names; ///< of all texts of the row
     /// By the number of a language in LanguageMatrix::languages, how many texts there are; languages without any are
     /// left out. Of names, descriptions and topics there is one, of the others a list.
     std::map<std::size_t, std::size_t> counts;
 
+    /// How many texts there are in the language of that number; 0 also for a number that no language has.
     std::size_t count(std::size_t language) const;
 };
 
+/// Whose texts are counted.
 enum class PartKind
 {
-    Package,
-    Behavior,
-    Dialog
+    Package,  ///< those of the package itself: names and descriptions
+    Behavior, ///< those of one behavior: all kinds but topics
+    Dialog    ///< those of one dialog: topics
 };
 
 /// The package itself, or a behavior or dialog of it.
 struct MatrixPart
 {
-    PartKind kind = PartKind::Package;
-    std::string name; ///< the path of a behavior, the topic name of a dialog; empty for the package
-    std::vector<MatrixRow> rows;
+    PartKind kind = PartKind::Package; ///< tells what `name` is
+    std::string name;                  ///< the path of a behavior, the topic name of a dialog; empty for the package
+    std::vector<MatrixRow> rows;       ///< in the order of TextKind, those that are there
 };
 
 /// The languages of a package against what it has texts of.

@@ -18,6 +18,7 @@ namespace zu::authoring {
 class ZUPACKAGE_AUTHORING_EXPORT ManifestEditError : public std::runtime_error
 {
 public:
+    /// `message` becomes what() as it stands; the place is not added to it.
     ManifestEditError(const std::string& message, Place place);
     ~ManifestEditError() override;
 

@@ -15,6 +15,7 @@ namespace zu::authoring {
 class ZUPACKAGE_AUTHORING_EXPORT PathSyntaxError : public std::runtime_error
 {
 public:
+    /// `message` becomes what() as it stands; the column is not added to it.
     PathSyntaxError(const std::string& message, std::size_t column) : std::runtime_error(message), m_column(column) {}
 
     /// Where in the path, in characters from 1.
@@ -27,6 +28,7 @@ private:
 /// A condition on the elements of a step, which stands in brackets.
 struct PathPredicate
 {
+    /// What a predicate asks about.
     enum class Kind
     {
         Position,  ///< `[2]`: the second of those that meet the conditions before, in each parent
@@ -35,7 +37,7 @@ struct PathPredicate
         OwnText    ///< ``[.='fr']``
     };
 
-    Kind kind;
+    Kind kind;                ///< tells which of the others count
     std::string name;         ///< of the attribute or the child; else empty
     std::string value;        ///< the whole text that is asked for; empty for a position
     std::size_t position = 0; ///< counted from 1; 0 for the other kinds
@@ -44,9 +46,9 @@ struct PathPredicate
 /// One step of a path, from elements to elements in them.
 struct PathStep
 {
-    std::string text; ///< as it was written
-    std::string name; ///< of the elements, with their prefix; "*" for all
-    std::vector<PathPredicate> predicates;
+    std::string text;                      ///< as it was written
+    std::string name;                      ///< of the elements, with their prefix; "*" for all
+    std::vector<PathPredicate> predicates; ///< in their order; elements have to meet all of them
 };
 
 /// The way to elements or to attributes of a manifest, in a part of the XPath notation:

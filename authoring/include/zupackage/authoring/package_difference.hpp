@@ -25,7 +25,7 @@ struct PackageChange
     /// after; of what was removed as in the one before. What a text identifies badly (an empty one, one with quotes of
     /// both kinds or with control characters) is told by its number.
     std::string path;
-    ChangeKind kind;
+    ChangeKind kind; ///< tells which of the texts below are there
     /// The text of the field or entry in the package before; empty for what was added, and for an entry that says
     /// nothing beyond its path (a permission, an executable file).
     std::string before;
@@ -34,12 +34,15 @@ struct PackageChange
     bool isMarkup = false;
 };
 
+/// Equal when all members are, the texts byte by byte.
+/// @{
 inline bool operator==(const PackageChange& left, const PackageChange& right)
 {
     return left.path == right.path && left.kind == right.kind && left.before == right.before &&
            left.after == right.after && left.isMarkup == right.isMarkup;
 }
 inline bool operator!=(const PackageChange& left, const PackageChange& right) { return !(left == right); }
+/// @}
 
 /// What makes one package the other, in the order in which manifests are written. Empty exactly when the two are the
 /// same as a manifest carries them: what PackageInfo::saveToManifestContent() leaves out (installer, path, empty texts)

@@ -16,9 +16,13 @@ namespace authoring {
 class ZUPACKAGE_AUTHORING_EXPORT PackageJsonError : public std::runtime_error
 {
 public:
+    /// Puts what() together from the three.
     PackageJsonError(Place place, std::string pointer, std::string reason);
+    /// Copies have texts of their own. Without memory for these the program ends, as copying an error must not throw.
+    /// @{
     PackageJsonError(const PackageJsonError&) noexcept = default;
     PackageJsonError& operator=(const PackageJsonError&) noexcept = default;
+    /// @}
     ~PackageJsonError() override;
 
     /// Where in the text what is wrong begins.

@@ -15,11 +15,10 @@ struct MergeConflict
 {
     /// Where, in the notation of PackageChange::path; as on our side, of what we removed as in the base.
     std::string path;
-    /// What it says in the base, on our side and on theirs: its text, or the XML of an entry of more than a text; empty
-    /// where it is not there.
+    /// What it says in the base: its text, or the XML of an entry of more than a text; empty where it is not there.
     std::string base;
-    std::string ours;
-    std::string theirs;
+    std::string ours;   ///< the same on our side
+    std::string theirs; ///< the same on their side
 };
 
 /// What two sides made of one package, put together.
@@ -47,7 +46,7 @@ struct ManifestMerge
 {
     std::string ours;   ///< the bytes of our manifest with what they changed, and our side of every conflict
     std::string theirs; ///< the same with their side of every conflict; what it has in common with `ours` are its bytes
-    std::vector<MergeConflict> conflicts;
+    std::vector<MergeConflict> conflicts; ///< as PackageMerge has them; without any, `theirs` equals `ours`
     /// They changed something that is no part of a package (comments, instructions, unknown elements and attributes,
     /// web content), which is not merged.
     bool leavesTextBehind = false;

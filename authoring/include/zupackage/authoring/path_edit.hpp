@@ -16,38 +16,42 @@ namespace zu::authoring {
 /// it stands in complete manifests. A position or "*" does not say what to make.
 struct SetText
 {
-    ManifestPath path;
-    std::string text; ///< in UTF-8
+    ManifestPath path; ///< to elements or to attributes
+    std::string text;  ///< in UTF-8
 };
 
 /// Appends an entry to its list: the last step says which, the steps before it where, and are made when they are
 /// missing, as SetText does it.
 struct AddEntry
 {
-    ManifestPath path;
+    ManifestPath path;          ///< to the list, and then the entry as its last step
     std::vector<SetText> parts; ///< what stands in the entry, with paths relative to it; "." is its own text
 };
 
 /// Takes everything away that the path leads to, an element with its line when nothing else stands there.
 struct Remove
 {
-    ManifestPath path;
+    ManifestPath path; ///< to elements or to attributes; PathEditError::Reason::NotThere when there are none
 };
 
+/// One of the changes that edited() makes.
 using PathEdit = std::variant<SetText, AddEntry, Remove>;
 
 /// An edit cannot be made.
 class ZUPACKAGE_AUTHORING_EXPORT PathEditError : public std::runtime_error
 {
 public:
+    /// Whether there is nothing to edit, or the edit would do harm.
     enum class Reason
     {
         NotThere, ///< the path leads to nothing, and does not say what to make
         Refused   ///< the result would not be read as it says, or would be no well-formed document
     };
 
+    /// `message` becomes what() as it stands.
     PathEditError(Reason reason, const std::string& message) : std::runtime_error(message), m_reason(reason) {}
 
+    /// What programs go by; what() tells people more.
     Reason reason() const { return m_reason; }
 
 private:

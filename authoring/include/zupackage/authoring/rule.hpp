@@ -27,7 +27,7 @@ struct Rule
     Severity severity;            ///< where nothing else is configured
     std::string_view summary;     ///< one line, without a full stop
     std::string_view explanation; ///< what happens to such a manifest, and what to write instead
-    ExampleFrame frame;
+    ExampleFrame frame;           ///< what manifestWith() puts around an example
     std::string_view badExample;  ///< triggers this rule, and no other
     std::string_view goodExample; ///< triggers none
     /// The files of the package that the examples belong to, parted by spaces; empty for a rule that looks at none.

@@ -24,12 +24,13 @@ enum class SyntaxErrorKind : std::uint8_t
 /// Why a document is no well-formed XML, and where.
 struct SyntaxError
 {
-    SyntaxErrorKind kind = SyntaxErrorKind::NotWellFormed;
-    std::string message; ///< in UTF-8, without a place and a full stop
-    ByteRange range;     ///< what is wrong; empty where something is missing
-    Place place;         ///< that of the range's beginning
+    SyntaxErrorKind kind = SyntaxErrorKind::NotWellFormed; ///< which of the standards or limits it is against
+    std::string message;                                   ///< in UTF-8, without a place and a full stop
+    ByteRange range;                                       ///< what is wrong; empty where something is missing
+    Place place;                                           ///< that of the range's beginning
 };
 
+/// The characters that end a line.
 enum class LineEnd : std::uint8_t
 {
     LineFeed,
@@ -68,9 +69,11 @@ public:
 
     /// @name Strictness
     /// @{
+
     /// What is wrong, in the order of places: the first 100 errors found after which the parser goes on, and the one
     /// after which it cannot, if any.
     const std::vector<SyntaxError>& errors() const;
+    /// Whether there are no errors: strict parsers take the document as it is.
     bool isWellFormed() const { return errors().empty(); }
     /// Whether the tree covers the document to its end, so that no error hides what comes after it.
     bool isComplete() const;
@@ -78,6 +81,7 @@ public:
 
     /// @name Nodes
     /// @{
+
     /// The whole.
     SourceNode document() const;
     /// The first element of the document; null when there is none.
@@ -94,6 +98,7 @@ public:
 
     /// @name Places
     /// @{
+
     /// Of a byte, or of the end. An offset within a character is that of the character, one beyond the end that of the
     /// end.
     Place place(std::size_t offset) const;
@@ -105,8 +110,10 @@ public:
 
     /// @name Form
     /// @{
+
     /// The name of the encoding that the bytes were read in: "UTF-8", "UTF-16LE", "ISO-8859-1" ...
     const std::string& encoding() const;
+    /// Whether the bytes begin with a byte order mark, which is no character of the document.
     bool hasByteOrderMark() const;
     /// The most frequent one; a line feed in a document of one line.
     LineEnd lineEnd() const;

@@ -15,6 +15,7 @@ class SourceChildren;
 class SourceNode;
 struct SourceTree;
 
+/// What a node is.
 enum class NodeKind : std::uint8_t
 {
     None,                  ///< that of a null node
@@ -58,6 +59,7 @@ public:
 
     /// From the name to the closing quote.
     ByteRange range() const;
+    /// Of the name, its prefix included.
     ByteRange nameRange() const;
     /// Within the quotes.
     ByteRange valueRange() const;
@@ -96,7 +98,9 @@ public:
 
     /// Whether there is one.
     explicit operator bool() const { return m_tree != nullptr; }
+    /// What the node is; NodeKind::None for a null node.
     NodeKind kind() const;
+    /// Whether kind() is NodeKind::Element; false for a null node.
     bool isElement() const { return kind() == NodeKind::Element; }
 
     /// The number of the node in document order; the document itself is 0.
@@ -104,8 +108,12 @@ public:
 
     /// @name Neighbours; null where there is none
     /// @{
+
+    /// The node that this one stands in; of the root element the document.
     SourceNode parent() const;
+    /// The first node in this one, be it white space or a comment.
     SourceNode firstChild() const;
+    /// The node behind this one in the same parent, be it white space or a comment.
     SourceNode nextSibling() const;
     /// The nodes in this one, without those in them.
     SourceChildren children() const;
@@ -138,6 +146,7 @@ public:
 
     /// @name What it takes of the document
     /// @{
+
     /// The whole node. Of an element whose end is missing, up to where the tree ends.
     ByteRange range() const;
     /// Of an element from `<` to `>`; empty, at its beginning, of other nodes.
@@ -184,29 +193,42 @@ public:
     class Iterator
     {
     public:
+        /// What std::iterator_traits tells: one pass at a time, over handles given by value.
+        /// @{
         using iterator_category = std::input_iterator_tag;
         using value_type = SourceNode;
         using difference_type = std::ptrdiff_t;
         using pointer = const SourceNode*;
         using reference = SourceNode;
+        /// @}
 
+        /// At `node`; a null one is the end of any range.
         explicit Iterator(SourceNode node) : m_node(node) {}
+        /// A null node at the end.
         SourceNode operator*() const { return m_node; }
+        /// On to the next sibling; from the end to the end.
         Iterator& operator++()
         {
             m_node = m_node.nextSibling();
             return *this;
         }
+        /// Equal at the same node; the ends of all ranges are equal.
+        /// @{
         friend bool operator==(Iterator left, Iterator right) { return left.m_node == right.m_node; }
         friend bool operator!=(Iterator left, Iterator right) { return left.m_node != right.m_node; }
+        /// @}
 
     private:
         SourceNode m_node;
     };
 
+    /// As SourceNode::children(); empty for a null node.
     explicit SourceChildren(SourceNode parent) : m_parent(parent) {}
+    /// For the loop; iterators do not need this object.
+    /// @{
     Iterator begin() const { return Iterator(m_parent.firstChild()); }
     Iterator end() const { return Iterator(SourceNode()); }
+    /// @}
 
 private:
     SourceNode m_parent;
@@ -220,36 +242,50 @@ public:
     class Iterator
     {
     public:
+        /// What std::iterator_traits tells: one pass at a time, over handles given by value.
+        /// @{
         using iterator_category = std::input_iterator_tag;
         using value_type = SourceAttribute;
         using difference_type = std::ptrdiff_t;
         using pointer = const SourceAttribute*;
         using reference = SourceAttribute;
+        /// @}
 
+        /// At the attribute of that number; `attributes` has to stay as long as the iterator is used.
         Iterator(const SourceAttributes* attributes, std::size_t number) : m_attributes(attributes), m_number(number) {}
+        /// Not to be called at the end.
         SourceAttribute operator*() const { return (*m_attributes)[m_number]; }
+        /// On to the next attribute; not to be called at the end.
         Iterator& operator++()
         {
             ++m_number;
             return *this;
         }
+        /// Equal at the same number, so that only iterators of one SourceAttributes can be compared.
+        /// @{
         friend bool operator==(Iterator left, Iterator right) { return left.m_number == right.m_number; }
         friend bool operator!=(Iterator left, Iterator right) { return left.m_number != right.m_number; }
+        /// @}
 
     private:
         const SourceAttributes* m_attributes;
         std::size_t m_number;
     };
 
+    /// How many attributes there are; 0 for a null node.
     std::size_t size() const { return m_size; }
+    /// Whether there are none.
     bool isEmpty() const { return m_size == 0; }
     /// `number` counts from 0 and is below size().
     SourceAttribute operator[](std::size_t number) const
     {
         return {m_tree, m_owner, m_first + static_cast<std::uint32_t>(number)};
     }
+    /// For the loop; this object has to stay as long as the iterators are used.
+    /// @{
     Iterator begin() const { return {this, 0}; }
     Iterator end() const { return {this, m_size}; }
+    /// @}
 
 private:
     friend class SourceNode;

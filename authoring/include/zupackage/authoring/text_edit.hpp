@@ -13,15 +13,18 @@ namespace zu::authoring {
 /// One change of a document's text: what stands in `range` becomes `replacement`. An empty range is an insertion.
 struct TextEdit
 {
-    ByteRange range;
+    ByteRange range;         ///< in the document as it is before any of the edits
     std::string replacement; ///< in UTF-8, as it is to stand there: escaped, with the line ends that it is to have
 };
 
+/// Equal when the same text replaces the same range.
+/// @{
 inline bool operator==(const TextEdit& left, const TextEdit& right)
 {
     return left.range == right.range && left.replacement == right.replacement;
 }
 inline bool operator!=(const TextEdit& left, const TextEdit& right) { return !(left == right); }
+/// @}
 
 /// The bytes of the document with the edits made, all of them or none. Every byte outside the ranges stays as it is;
 /// replacements are encoded in the document's encoding, a character that it cannot hold as a numeric reference.

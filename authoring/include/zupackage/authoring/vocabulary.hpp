@@ -36,8 +36,8 @@ enum class Occurrence
 /// An attribute that an element may carry.
 struct AttributeEntry
 {
-    std::string_view name;
-    ValueKind kind;
+    std::string_view name;    ///< without a prefix
+    ValueKind kind;           ///< of its value
     bool isRequired;          ///< a complete element has it, and not empty
     std::string_view purpose; ///< what it is for, as one sentence
 };
@@ -49,15 +49,15 @@ struct ElementEntry
     std::string_view name;      ///< the last of them
     const ElementEntry* parent; ///< null for the root
     std::size_t index;          ///< its place in Vocabulary::elements()
-    Occurrence occurrence;
-    ValueKind text;
+    Occurrence occurrence;      ///< in `parent`
+    ValueKind text;             ///< of the text in it, not of that in its children
     /// What tells it from its siblings of the same name: an attribute's name, "." for its own text, empty for nothing.
     std::string_view identity;
     /// The reader takes every child, of whatever name and kind, for an entry.
     bool countsEveryChild;
-    std::string_view purpose;               ///< what it is for, as one sentence
-    std::vector<AttributeEntry> attributes; ///< in the order in which manifests are written
-    std::vector<const ElementEntry*> children;
+    std::string_view purpose;                  ///< what it is for, as one sentence
+    std::vector<AttributeEntry> attributes;    ///< in the order in which manifests are written
+    std::vector<const ElementEntry*> children; ///< in the order in which manifests are written
 
     /// @return the attribute of that name; null when the element has none.
     ZUPACKAGE_AUTHORING_EXPORT const AttributeEntry* attribute(std::string_view attributeName) const;
@@ -75,11 +75,13 @@ struct ElementEntry
 class ZUPACKAGE_AUTHORING_EXPORT Vocabulary
 {
 public:
+    /// The only one there is, made on the first call, for the life of the process.
     static const Vocabulary& manifest();
 
     /// All entries, each before its children, siblings in the order in which manifests are written.
     const std::vector<ElementEntry>& elements() const { return m_elements; }
 
+    /// The entry of the root element, "/package"; the first of elements().
     const ElementEntry& root() const { return m_elements.front(); }
 
     /// @return the entry with that path; null when there is none.
