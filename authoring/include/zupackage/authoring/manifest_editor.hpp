@@ -9,7 +9,7 @@
 #include <string>
 
 namespace zu {
-class PackageInfo; // of <zupackage/package_info.hpp>, in zu::package
+class PackageInfo; // of <zupackage/package_info.hpp>
 }
 
 namespace zu::authoring {
@@ -30,7 +30,7 @@ private:
 };
 
 /// Changes a manifest to read as another package, and leaves every byte alone that does not have to change. To use it,
-/// include <zupackage/package_info.hpp> and link zu::package as well.
+/// include <zupackage/package_info.hpp> as well.
 ///
 /// A load and a save through PackageInfo alone loses comments, unknown elements and formatting. An editor keeps them:
 /// texts and attributes are replaced where they stand, in the quotes, the CDATA section and with the references that
