@@ -8,8 +8,9 @@ zpty shell zsh -f -i
 zpty -w shell "fpath=(${(q)script:h} \$fpath); autoload -Uz compinit; compinit -u -D"
 # What is offered is printed on its way.
 zpty -w shell 'compadd() { local -a f; builtin compadd -O f "$@"; print -rl -- "<$^f>"; builtin compadd "$@" }'
-zpty -w shell 'bindkey "^I" complete-word; bindkey "^U" kill-whole-line; print REA""DY'
-zpty -r shell line '*READY*'
+zpty -w shell 'bindkey "^I" complete-word; bindkey "^U" kill-whole-line; PS1=REA"DY> "'
+# Before the line editor is there, which shows the prompt, the terminal itself would take the keys.
+zpty -r shell line '*READY> *'
 zpty -w -n shell "zupackage $*"$'\t\C-uprint DO""NE\n'
 output=
 while [[ $output != *DONE* ]] && zpty -r shell line; do
