@@ -43,8 +43,9 @@ TEST(ManifestMergeProperties, TheResultReadsAsTheMergeOfThePackages)
         RC_ASSERT(differences(packageIn(merged.theirs), expected.theirs).empty());
         conflicts += merged.conflicts.empty() ? 0 : 1;
     });
-    if (count >= 2'000) // few inputs may have none by chance
+    if (count >= 2'000) { // few inputs may have none by chance
         EXPECT_GT(conflicts, count / 1'000);
+    }
 }
 
 TEST(ManifestMergeProperties, WithoutTheirChangesNoByteOfOursChanges)

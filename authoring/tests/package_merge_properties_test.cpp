@@ -90,8 +90,9 @@ TEST(PackageMergeProperties, SidesThatChangePlacesMakeTheSameUpToOrder)
         RC_ASSERT(!differences(merged.ours, merged.theirs).empty());
         ++conflicts;
     });
-    if (count >= 2'000) // few inputs may have none by chance
+    if (count >= 2'000) { // few inputs may have none by chance
         EXPECT_GT(conflicts, count / 1'000);
+    }
 }
 
 TEST(PackageMergeProperties, EditsOfDifferentSectionsAreBothThere)

@@ -64,8 +64,9 @@ void expectOutcomes(const std::string& path, const std::string& asText, const st
         EXPECT_THAT(read("text", stack, path, bytes), isOutcome(asText));
         EXPECT_THAT(read("file", stack, path, bytes), isOutcome(asFile));
     }
-    if (bytes <= k_manyBytes)
+    if (bytes <= k_manyBytes) {
         EXPECT_EQ(read("check", "small", path, bytes), "checked\n");
+    }
 }
 
 class LargeHostileDocument : public testing::TestWithParam<test::HostileDocument>
