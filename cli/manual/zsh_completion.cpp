@@ -4,8 +4,8 @@ namespace zu::cli {
 
 namespace {
 
-/// A text within a specification in single quotes, in which colons and brackets end parts.
-std::string specified(const std::string& text)
+/// A text within single quotes for _arguments or _describe, to which colons and brackets end parts.
+std::string escapedPart(const std::string& text)
 {
     std::string escaped;
     for (const char c : text) {
@@ -27,14 +27,14 @@ std::string valueOf(const OptionDefinition& option)
     std::string words;
     for (const std::string& choice : option.choices)
         words.append(words.empty() ? "" : " ").append(choice);
-    return ":" + specified(option.value) + ":" +
+    return ":" + escapedPart(option.value) + ":" +
            (!words.empty()        ? "(" + words + ")"
             : option.takesFiles() ? "_files"
                                   : "");
 }
 
 /// The arguments of _arguments for an option, a line for each name.
-std::string specificationOf(const OptionDefinition& option, const std::string& indent)
+std::string argumentOf(const OptionDefinition& option, const std::string& indent)
 {
     if (option.isArgument()) {
         const char* const kind = option.isRepeated ? "*" : option.isRequired ? "" : ":";
@@ -48,18 +48,18 @@ std::string specificationOf(const OptionDefinition& option, const std::string& i
             .append(option.isRepeated ? "*" : "")
             .append(name)
             .append("[")
-            .append(specified(option.help))
+            .append(escapedPart(option.help))
             .append("]")
             .append(valueOf(option))
             .append("'");
     return lines;
 }
 
-std::string specificationsOf(const std::vector<OptionDefinition>& options, const std::string& indent)
+std::string argumentsOf(const std::vector<OptionDefinition>& options, const std::string& indent)
 {
     std::string lines;
     for (const OptionDefinition& option : options)
-        lines.append(" \\\n").append(specificationOf(option, indent));
+        lines.append(" \\\n").append(argumentOf(option, indent));
     return lines;
 }
 
@@ -75,11 +75,11 @@ std::string zshCompletion(const ProgramDefinition& program)
                          "    local -a commands=(\n";
     std::string cases;
     for (const CommandDefinition& command : program.commands) {
-        script += "        '" + specified(command.name) + ":" + specified(command.summary) + "'\n";
+        script += "        '" + escapedPart(command.name) + ":" + escapedPart(command.summary) + "'\n";
         cases += "        " + command.name + ")\n            _arguments" +
-                 specificationsOf(command.options, "                ") + "\n            ;;\n";
+                 argumentsOf(command.options, "                ") + "\n            ;;\n";
     }
-    script += "    )\n    _arguments -C" + specificationsOf(program.options, "        ") +
+    script += "    )\n    _arguments -C" + argumentsOf(program.options, "        ") +
               " \\\n        '1: :->command' \\\n        '*:: :->argument'\n"
               "    case $state in\n"
               "    command) _describe command commands ;;\n"

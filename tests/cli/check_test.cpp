@@ -1,6 +1,7 @@
 #include "support/files.hpp"
 #include "support/json_schema.hpp"
 #include "support/program.hpp"
+#include "support/texts.hpp"
 
 #include <QtCore/QXmlStreamReader>
 #include <gmock/gmock.h>
@@ -14,6 +15,7 @@
 namespace zu {
 
 using test::ProgramResult;
+using test::replaced;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -27,11 +29,6 @@ const std::string k_good = "<package uuid=\"a\" version=\"1.0\">\n"
                            "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
                            "  <contents><webContent path=\"web\"/></contents>\n"
                            "</package>\n";
-
-std::string replaced(std::string text, const std::string& old, const std::string& now)
-{
-    return text.replace(text.find(old), old.size(), now);
-}
 
 const std::string k_bad = replaced(k_good, "1.0", "one");      // an error
 const std::string k_dubious = replaced(k_good, ">A<", "> A<"); // a warning

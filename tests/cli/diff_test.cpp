@@ -1,6 +1,7 @@
 #include "support/files.hpp"
 #include "support/json_schema.hpp"
 #include "support/program.hpp"
+#include "support/texts.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,6 +11,7 @@
 namespace zu {
 
 using test::ProgramResult;
+using test::replaced;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
@@ -39,11 +41,6 @@ protected:
 
     test::TemporaryFolder folder;
 };
-
-std::string replaced(std::string text, const std::string& old, const std::string& now)
-{
-    return text.replace(text.find(old), old.size(), now);
-}
 
 /// Each line behind the blanks that pages set it with.
 std::string indented(const std::string& text)

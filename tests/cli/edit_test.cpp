@@ -1,5 +1,6 @@
 #include "support/files.hpp"
 #include "support/program.hpp"
+#include "support/texts.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,6 +14,7 @@ namespace zu {
 
 namespace fs = std::filesystem;
 using test::ProgramResult;
+using test::replaced;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -25,11 +27,6 @@ const std::string k_manifest = "<package uuid='a' version='1.0'>\n"
                                "    <name lang='fr'>B</name>\n"
                                "  </names>\n"
                                "</package>";
-
-std::string replaced(std::string text, const std::string& old, const std::string& now)
-{
-    return text.replace(text.find(old), old.size(), now);
-}
 
 ProgramResult run(const std::vector<std::string>& arguments, const std::string& input = {})
 {

@@ -1,3 +1,4 @@
+#include "cli/wave_manifest.hpp"
 #include "support/git_repository.hpp"
 
 #include <gmock/gmock.h>
@@ -6,28 +7,13 @@
 namespace zu {
 
 using test::GitRepository;
+using test::k_waveManifest;
+using test::replaced;
+using test::withName;
 using testing::HasSubstr;
 using testing::Not;
 
 namespace {
-
-const std::string k_manifest = "<?xml version='1.0'?>\n"
-                               "<package uuid=\"u\" version=\"1.0\">\n"
-                               "  <!-- for people -->\n"
-                               "  <names>\n"
-                               "    <name lang=\"en\">Wave</name>\n"
-                               "  </names>\n"
-                               "</package>\n";
-
-std::string replaced(std::string text, const std::string& old, const std::string& now)
-{
-    return text.replace(text.find(old), old.size(), now);
-}
-
-std::string withName(const std::string& lang, const std::string& name)
-{
-    return replaced(k_manifest, "  </names>", "    <name lang=\"" + lang + "\">" + name + "</name>\n  </names>");
-}
 
 class GitDiff : public testing::Test
 {
@@ -35,7 +21,7 @@ protected:
     GitDiff()
     {
         repository.commit(".gitattributes", "manifest.xml diff=zupackage\n");
-        repository.commit("manifest.xml", k_manifest);
+        repository.commit("manifest.xml", k_waveManifest);
     }
 
     void configure(const std::string& key, const std::string& words) const
@@ -53,7 +39,7 @@ TEST_F(GitDiff, ShowsManifestsAsTextWhereItComparesLines)
     configure("diff.zupackage.textconv", "show");
     test::writeFile(repository.path("manifest.xml"), withName("fr", "Saluer"));
     EXPECT_THAT(repository.run({"diff"}), HasSubstr("\n+  fr -> Saluer\n"));
-    test::writeFile(repository.path("manifest.xml"), replaced(k_manifest, "for people", "for all"));
+    test::writeFile(repository.path("manifest.xml"), replaced(k_waveManifest, "for people", "for all"));
     EXPECT_THAT(repository.run({"diff"}), Not(HasSubstr("@@")));
 }
 
@@ -62,7 +48,7 @@ TEST_F(GitDiff, ShowsWhatBecameOfThePackage)
     configure("diff.zupackage.command", "diff --git");
     test::writeFile(repository.path("manifest.xml"), withName("fr", "Saluer"));
     EXPECT_EQ(repository.run({"diff"}), "manifest manifest.xml\nadded    names/name[@lang='fr']: \"Saluer\"\n");
-    test::writeFile(repository.path("manifest.xml"), replaced(k_manifest, "for people", "for all"));
+    test::writeFile(repository.path("manifest.xml"), replaced(k_waveManifest, "for people", "for all"));
     EXPECT_EQ(repository.run({"diff"}),
               "manifest manifest.xml\nnothing of the package differs, only the text of the manifest\n");
 }
@@ -76,7 +62,8 @@ TEST_F(GitDiff, ShowsManifestsThatComeGoOrGetAnotherName)
     repository.run({"mv", "manifest.xml", "inner/manifest.xml"});
     EXPECT_THAT(repository.run({"diff", "--cached", "--no-renames"}),
                 HasSubstr("manifest manifest.xml (deleted)\nremoved  @uuid: \"u\"\n"));
-    test::writeFile(repository.path("inner/manifest.xml"), replaced(k_manifest, "version=\"1.0\"", "version=\"1.1\""));
+    test::writeFile(repository.path("inner/manifest.xml"),
+                    replaced(k_waveManifest, "version=\"1.0\"", "version=\"1.1\""));
     repository.run({"add", "--all"});
     EXPECT_EQ(repository.run({"diff", "--cached", "--find-renames"}),
               "manifest manifest.xml (now inner/manifest.xml)\nchanged  @version: \"1.0\" -> \"1.1\"\n");
@@ -86,7 +73,7 @@ TEST_F(GitDiff, GoesOnAfterAManifestThatCannotBeRead)
 {
     configure("diff.zupackage.command", "diff --git");
     std::filesystem::create_directory(repository.path("z"));
-    repository.commit("z/manifest.xml", k_manifest);
+    repository.commit("z/manifest.xml", k_waveManifest);
     test::writeFile(repository.path("manifest.xml"), "<p>");
     test::writeFile(repository.path("z/manifest.xml"), withName("fr", "Saluer"));
     EXPECT_EQ(repository.run({"diff"}),

@@ -1,3 +1,4 @@
+#include "cli/wave_manifest.hpp"
 #include "support/git_repository.hpp"
 
 #include <gmock/gmock.h>
@@ -6,29 +7,14 @@
 namespace zu {
 
 using test::GitRepository;
+using test::k_waveManifest;
 using test::ProgramResult;
+using test::replaced;
+using test::withName;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace {
-
-const std::string k_manifest = "<?xml version='1.0'?>\n"
-                               "<package uuid=\"u\" version=\"1.0\">\n"
-                               "  <!-- for people -->\n"
-                               "  <names>\n"
-                               "    <name lang=\"en\">Wave</name>\n"
-                               "  </names>\n"
-                               "</package>\n";
-
-std::string replaced(std::string text, const std::string& old, const std::string& now)
-{
-    return text.replace(text.find(old), old.size(), now);
-}
-
-std::string withName(const std::string& lang, const std::string& name)
-{
-    return replaced(k_manifest, "  </names>", "    <name lang=\"" + lang + "\">" + name + "</name>\n  </names>");
-}
 
 class GitMerge : public testing::Test
 {
@@ -36,7 +22,7 @@ protected:
     GitMerge()
     {
         repository.commit(".gitattributes", "manifest.xml merge=zupackage\n");
-        repository.commit("manifest.xml", k_manifest);
+        repository.commit("manifest.xml", k_waveManifest);
         repository.run(
             {"config", "merge.zupackage.driver", "'" ZUPACKAGE_PROGRAM "' merge %O %A %B -o %A --marker-size %L"});
         repository.run({"branch", "theirs"});
@@ -70,10 +56,11 @@ TEST_F(GitMerge, BranchesThatAddLanguagesMeetWithoutAConflict)
 
 TEST_F(GitMerge, ATextThatBothChangedIsLeftWithMarks)
 {
-    const ProgramResult result = merge(replaced(k_manifest, "Wave", "Wave hello"), replaced(k_manifest, "Wave", "Hi"));
+    const ProgramResult result =
+        merge(replaced(k_waveManifest, "Wave", "Wave hello"), replaced(k_waveManifest, "Wave", "Hi"));
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_THAT(result.errors, HasSubstr("zupackage: both sides changed names/name[@lang='en']\n"));
-    EXPECT_EQ(content(), replaced(k_manifest, "    <name lang=\"en\">Wave</name>\n",
+    EXPECT_EQ(content(), replaced(k_waveManifest, "    <name lang=\"en\">Wave</name>\n",
                                   "<<<<<<< ours\n    <name lang=\"en\">Wave hello</name>\n"
                                   "=======\n    <name lang=\"en\">Hi</name>\n>>>>>>> theirs\n"));
     EXPECT_EQ(repository.run({"diff", "--name-only", "--diff-filter=U"}), "manifest.xml\n");

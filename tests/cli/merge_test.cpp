@@ -1,5 +1,6 @@
 #include "support/files.hpp"
 #include "support/program.hpp"
+#include "support/texts.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,6 +10,7 @@
 namespace zu {
 
 using test::ProgramResult;
+using test::replaced;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -20,11 +22,6 @@ const std::string k_base = "<package version=\"1\">\r\n"
                            "    <name lang=\"en\">A</name>\r\n"
                            "  </names>\r\n"
                            "</package>\r\n";
-
-std::string replaced(std::string text, const std::string& old, const std::string& now)
-{
-    return text.replace(text.find(old), old.size(), now);
-}
 
 class MergeCommand : public testing::Test
 {
