@@ -11,7 +11,6 @@
 namespace zu::authoring {
 
 using zupackage::authoring::isBlankText;
-using zupackage::authoring::textOf;
 using zupackage::check::Outline;
 
 namespace {
@@ -64,8 +63,8 @@ public:
     {
         countLineEnds(document.document());
         const auto most = std::max_element(m_lineEndCounts.begin(), m_lineEndCounts.end());
-        m_lineEnd = textOf(*most == 0 ? document.lineEnd()
-                                      : static_cast<LineEnd>(std::distance(m_lineEndCounts.begin(), most)));
+        m_lineEnd = charactersOf(*most == 0 ? document.lineEnd()
+                                            : static_cast<LineEnd>(std::distance(m_lineEndCounts.begin(), most)));
     }
 
     std::string text()

@@ -5,25 +5,11 @@
 
 namespace zupackage::authoring {
 
-using zu::authoring::LineEnd;
 using zu::authoring::NodeKind;
 using zu::authoring::SourceDocument;
 using zu::authoring::SourceNode;
 using zu::authoring::SourceTree;
 using zu::authoring::SourceTreeAccess;
-
-std::string_view textOf(LineEnd lineEnd)
-{
-    switch (lineEnd) {
-    case LineEnd::LineFeed:
-        return "\n";
-    case LineEnd::CarriageReturn:
-        return "\r";
-    case LineEnd::CarriageReturnLineFeed:
-        return "\r\n";
-    }
-    return "\n";
-}
 
 std::string withLineEnds(std::string_view text, std::string_view lineEnd)
 {

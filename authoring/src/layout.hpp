@@ -9,8 +9,6 @@
 /// How a document is laid out.
 namespace zupackage::authoring {
 
-std::string_view textOf(zu::authoring::LineEnd lineEnd);
-
 /// The text with these line ends in the place of line feeds.
 std::string withLineEnds(std::string_view text, std::string_view lineEnd);
 

@@ -22,27 +22,13 @@ using testing::IsEmpty;
 
 namespace {
 
-std::string wordOf(ChangeKind kind)
-{
-    switch (kind) {
-    case ChangeKind::Added:
-        return "added";
-    case ChangeKind::Removed:
-        return "removed";
-    case ChangeKind::Changed:
-        return "changed";
-    case ChangeKind::Moved:
-        return "moved";
-    }
-    return {};
-}
-
 /// Each change as "added PATH: BEFORE | AFTER".
 std::vector<std::string> changes(const PackageInfo& before, const PackageInfo& after)
 {
     std::vector<std::string> lines;
     for (const PackageChange& change : differences(before, after))
-        lines.push_back(wordOf(change.kind) + " " + change.path + ": " + change.before + " | " + change.after);
+        lines.push_back(std::string(nameOf(change.kind)) + " " + change.path + ": " + change.before + " | " +
+                        change.after);
     return lines;
 }
 

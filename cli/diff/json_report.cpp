@@ -10,21 +10,6 @@ using authoring::ChangeKind;
 using authoring::PackageChange;
 using nlohmann::ordered_json;
 
-const char* nameOf(ChangeKind kind)
-{
-    switch (kind) {
-    case ChangeKind::Added:
-        return "added";
-    case ChangeKind::Removed:
-        return "removed";
-    case ChangeKind::Changed:
-        return "changed";
-    case ChangeKind::Moved:
-        return "moved";
-    }
-    return "";
-}
-
 const char* outcomeOf(const ManifestDifference& difference)
 {
     if (!difference.unreadable.empty())

@@ -14,26 +14,28 @@ using authoring::PackageChange;
 constexpr const char* k_red = "31";
 constexpr const char* k_green = "32";
 
-/// A kind of change, in as many columns as the others.
-struct Label
-{
-    std::string_view text;
-    const char* colour;
-};
-
-Label labelOf(ChangeKind kind)
+const char* colourOf(ChangeKind kind)
 {
     switch (kind) {
     case ChangeKind::Added:
-        return {"added   ", k_green};
+        return k_green;
     case ChangeKind::Removed:
-        return {"removed ", k_red};
+        return k_red;
     case ChangeKind::Changed:
-        return {"changed ", "33"};
+        return "33";
     case ChangeKind::Moved:
-        return {"moved   ", "36"};
+        return "36";
     }
-    return {};
+    return "";
+}
+
+/// A kind of change, in as many columns as the others.
+std::string labelOf(ChangeKind kind, bool isColoured)
+{
+    constexpr std::size_t k_width = 8;
+    std::string label(nameOf(kind));
+    label.resize(k_width, ' ');
+    return painted(label, colourOf(kind), isColoured);
 }
 
 /// The text in double quotes, with escapes for these and for what does not stand in a line.
@@ -104,9 +106,7 @@ std::string textReport(const ManifestDifference& difference, bool isColoured)
         return "nothing of the package differs, only the text of the manifest\n";
     std::string report;
     for (const PackageChange& change : difference.changes) {
-        const Label label = labelOf(change.kind);
-        report += painted(label.text, label.colour, isColoured) + " " + displayed(change.path) +
-                  textsOf(change, isColoured) + "\n";
+        report += labelOf(change.kind, isColoured) + " " + displayed(change.path) + textsOf(change, isColoured) + "\n";
     }
     return report;
 }

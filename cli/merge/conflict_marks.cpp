@@ -4,33 +4,20 @@
 
 #include <zupackage/authoring/text_edit.hpp>
 
+#include <string_view>
 #include <vector>
 
 namespace zu::cli {
 
 namespace {
 
-using authoring::LineEnd;
 using authoring::SourceDocument;
-
-const char* charactersOf(LineEnd lineEnd)
-{
-    switch (lineEnd) {
-    case LineEnd::LineFeed:
-        return "\n";
-    case LineEnd::CarriageReturn:
-        return "\r";
-    case LineEnd::CarriageReturnLineFeed:
-        return "\r\n";
-    }
-    return "";
-}
 
 /// Writes lines, and those of conflicts between marks.
 class MarkedLines
 {
 public:
-    MarkedLines(const ConflictMarks& marks, const char* lineEnd) : m_marks(marks), m_lineEnd(lineEnd) {}
+    MarkedLines(const ConflictMarks& marks, std::string_view lineEnd) : m_marks(marks), m_lineEnd(lineEnd) {}
 
     void add(const LineStep& step)
     {
@@ -77,7 +64,7 @@ private:
     }
 
     const ConflictMarks& m_marks;
-    const char* m_lineEnd;
+    std::string_view m_lineEnd;
     std::string m_text;
     std::string m_ours;
     std::string m_theirs;

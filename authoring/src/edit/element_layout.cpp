@@ -98,7 +98,7 @@ std::size_t beginOfRemarks(const Layout& layout, SourceNode node, const NodeSet&
 } // namespace
 
 Layout::Layout(const SourceDocument& document, const SourceDocument& target)
-    : m_document(document), m_target(target), m_lineEnd(authoring::textOf(document.lineEnd())),
+    : m_document(document), m_target(target), m_lineEnd(charactersOf(document.lineEnd())),
       m_unit(authoring::indentationStep(document))
 {
 }

@@ -70,6 +70,21 @@ private:
 
 namespace zu::authoring {
 
+std::string_view nameOf(ChangeKind kind)
+{
+    switch (kind) {
+    case ChangeKind::Added:
+        return "added";
+    case ChangeKind::Removed:
+        return "removed";
+    case ChangeKind::Changed:
+        return "changed";
+    case ChangeKind::Moved:
+        return "moved";
+    }
+    return "";
+}
+
 std::vector<PackageChange> differences(const PackageInfo& before, const PackageInfo& after)
 {
     using namespace zupackage::authoring;

@@ -201,7 +201,7 @@ SourceNode principalText(const SourceDocument& document, SourceNode element)
 ElementLayout layoutAt(const SourceDocument& document, SourceNode element)
 {
     ElementLayout layout;
-    layout.lineEnd = textOf(document.lineEnd());
+    layout.lineEnd = charactersOf(document.lineEnd());
     layout.step = indentationStep(document);
     const SourceNode sibling = firstElementIn(element);
     for (const SourceNode witness : {sibling, element, document.root()}) {

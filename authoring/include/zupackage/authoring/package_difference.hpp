@@ -4,6 +4,7 @@
 #include <zupackage/package_info.hpp>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace zu::authoring {
@@ -16,6 +17,9 @@ enum class ChangeKind
     Changed, ///< its text is another one
     Moved,   ///< it stands in another order among the others of its list
 };
+
+/// The kind as reports name it: `added`, `removed`, `changed`, `moved`.
+ZUPACKAGE_AUTHORING_EXPORT std::string_view nameOf(ChangeKind kind);
 
 /// One difference between two packages.
 struct PackageChange

@@ -38,6 +38,9 @@ enum class LineEnd : std::uint8_t
     CarriageReturnLineFeed,
 };
 
+/// The characters themselves, one or two.
+ZUPACKAGE_AUTHORING_EXPORT std::string_view charactersOf(LineEnd lineEnd);
+
 /// An XML document as it stands in its bytes: every node and attribute with its range, and everything that a strict
 /// parser says against it. What the package library makes of a document is not its business: that library's reader is
 /// lenient, so that what it reads may be refused here.
