@@ -178,7 +178,7 @@ namespace authoring {
 
 PackageJsonError::PackageJsonError(Place place, std::string pointer, std::string reason)
     : std::runtime_error(zupackage::authoring::wordsFor(place, pointer, reason)), m_place(place),
-      m_pointer(std::move(pointer)), m_reason(std::move(reason))
+      m_texts(std::make_shared<Texts>(Texts{std::move(pointer), std::move(reason)}))
 {
 }
 

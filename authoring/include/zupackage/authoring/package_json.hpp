@@ -4,6 +4,7 @@
 #include <zupackage/authoring/place.hpp>
 #include <zupackage/package_info.hpp>
 
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -18,7 +19,7 @@ class ZUPACKAGE_AUTHORING_EXPORT PackageJsonError : public std::runtime_error
 public:
     /// Puts what() together from the three.
     PackageJsonError(Place place, std::string pointer, std::string reason);
-    /// Copies have texts of their own. Without memory for these the program ends, as copying an error must not throw.
+    /// Copies share the texts, so that they cannot fail.
     /// @{
     PackageJsonError(const PackageJsonError&) noexcept = default;
     PackageJsonError& operator=(const PackageJsonError&) noexcept = default;
@@ -30,15 +31,20 @@ public:
 
     /// The same as a JSON pointer (RFC 6901), "/contents/behaviorContent/0/nature"; empty for the whole. Of what is no
     /// JSON the way to where the text stops to be it.
-    const std::string& pointer() const noexcept { return m_pointer; }
+    const std::string& pointer() const noexcept { return m_texts->pointer; }
 
     /// For people, without the place. what() is `line 3, column 5, at "POINTER": REASON`.
-    const std::string& reason() const noexcept { return m_reason; }
+    const std::string& reason() const noexcept { return m_texts->reason; }
 
 private:
+    struct Texts
+    {
+        std::string pointer;
+        std::string reason;
+    };
+
     Place m_place;
-    std::string m_pointer;
-    std::string m_reason;
+    std::shared_ptr<const Texts> m_texts;
 };
 
 } // namespace authoring
