@@ -17,6 +17,7 @@
 #include "commands/site.hpp"
 #include "manual/program_definition.hpp"
 #include "output.hpp"
+#include "process_settings.hpp"
 #include "wrapped_text.hpp"
 
 #include <CLI/CLI.hpp>
@@ -98,18 +99,47 @@ void addHelp(CommandLine& line)
     help->callback([&line] { line.result = printHelp(line); });
 }
 
-void addCommands(CommandLine& line)
+void addOptions(CommandLine& line)
 {
     line.app.set_version_flag("--version", "zupackage " ZUPACKAGE_VERSION, "Print the version and exit");
     line.app.require_subcommand(1);
-    for (const Command& command : commands()) {
+    line.app.footer([] { return footerOf({}); });
+}
+
+void addCommands(CommandLine& line, const std::vector<Command>& commands)
+{
+    for (const Command& command : commands) {
         CLI::App* const subcommand = line.app.add_subcommand(command.name, command.summary);
         subcommand->footer([examples = command.examples] { return footerOf(examples); });
         Arguments arguments(*subcommand);
-        subcommand->callback([&line, run = command.prepare(arguments)] { line.result = run(); });
+        subcommand->callback([&line, run = command.prepare(arguments)] {
+            settleProcess();
+            line.result = run();
+        });
     }
+}
+
+/// Everything that the program can be asked.
+void addAll(CommandLine& line)
+{
+    addOptions(line);
+    addCommands(line, commands());
     addHelp(line);
-    line.app.footer([] { return footerOf({}); });
+}
+
+/// What these arguments may ask. To add all commands takes longer than most of them run.
+void addNeeded(CommandLine& line, int argc, char** argv)
+{
+    const std::string first = argc > 1 ? argv[1] : "";
+    if (argc == 2 && first == "--version")
+        return addOptions(line);
+    for (const Command& command : commands()) {
+        if (command.name == first) {
+            addOptions(line);
+            return addCommands(line, {command});
+        }
+    }
+    addAll(line);
 }
 
 /// The values in "WHICH:{text,json}", which is how the parser shows a value that is one of several.
@@ -203,7 +233,7 @@ ProgramDefinition programDefinition()
     std::map<std::string, Examples> examples = {{"help", k_helpExamples}};
     for (const Command& command : commands())
         examples[command.name] = command.examples;
-    addCommands(line);
+    addAll(line);
     program.options = optionsOf(line.app);
     for (const CLI::App* command : line.app.get_subcommands({})) {
         const Examples& rows = examples[command->get_name()];
@@ -217,7 +247,7 @@ ProgramDefinition programDefinition()
 ExitCode runCommandLine(int argc, char** argv)
 {
     CommandLine line;
-    addCommands(line);
+    addNeeded(line, argc, argv);
     try {
         line.app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -33,7 +33,7 @@ constexpr std::string_view k_languageOfText = "The language of the text.";
 
 } // namespace
 
-const VocabularyRow k_vocabularyRows[] = {
+constexpr VocabularyRow k_vocabularyRows[] = {
     element(0, "package", Occurrence::Once, ValueKind::None, "Describes one application package."),
     required("uuid", ValueKind::Identifier,
              "What installers and stores know the package by, the same in every version."),
