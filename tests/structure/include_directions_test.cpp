@@ -32,6 +32,7 @@ const std::vector<Rule> k_rules = {
     {"framework/src/json.cpp", {"framework/src/", k_framework, "nlohmann/", "std/"}},
     {"framework/src/", {"framework/src/", k_framework, "boost/", "spdlog/", "std/"}},
     {"framework/examples/", {k_framework, "std/"}},
+    {"framework/tests/allocation/", {"framework/tests/allocation/", k_framework, "dlfcn.h", "gtest/", "std/"}},
     {"framework/tests/", {"framework/tests/", k_framework, "boost/", "gmock/", "gtest/", "std/"}},
 
     // Public headers need the framework where values of its own stand in the interface, and nowhere else.
@@ -57,6 +58,8 @@ const std::vector<Rule> k_rules = {
     {"authoring/src/schema/", {"authoring/src/", k_authoring, k_package, "nlohmann/", "std/"}},
     {"authoring/src/", {"authoring/src/", k_authoring, k_package, "QtCore/", "std/"}},
     {"authoring/generate/", {"nlohmann/", "std/"}},
+    // What makes allocations fail needs nothing of the framework, and is there whichever framework is built against.
+    {"authoring/tests/allocation/", {"framework/tests/allocation/", k_authoring, k_package, "gtest/", "std/"}},
     {"authoring/tests/",
      {"authoring/", "tests/", k_package, k_framework, "QtCore/", "QtXml/", "gmock/", "gtest/", "std/"}},
 

@@ -5,8 +5,8 @@
 
 namespace zu {
 
-/// While it lives, one allocation of this thread fails: the one after `allowed` others. Replaces the operators new of
-/// the program.
+/// While it lives, one allocation of this thread fails: the one after `allowed` others, or the first after them that is
+/// not Qt's. Replaces the operators new of the program.
 class FailingAllocation
 {
 public:
