@@ -1,5 +1,6 @@
 #include "ratio_reporter.hpp"
 
+#include <algorithm>
 #include <iomanip>
 
 namespace bench {
@@ -16,10 +17,13 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs)
 
 void RatioReporter::Finalize()
 {
-    constexpr int k_nameWidth = 36;
+    std::size_t longest = 0;
+    for (const Target& target : m_targets)
+        longest = std::max({longest, target.what.size(), target.floor.size()});
+    const int nameWidth = static_cast<int>(longest) + 2;
     auto& out = GetOutputStream();
     out << '\n'
-        << std::left << std::setw(k_nameWidth) << "ratio" << std::setw(k_nameWidth) << "to"
+        << std::left << std::setw(nameWidth) << "ratio" << std::setw(nameWidth) << "to"
         << "is      target\n";
     for (const Target& target : m_targets) {
         const auto time = m_times.find(target.what);
@@ -27,7 +31,7 @@ void RatioReporter::Finalize()
         if (time == m_times.end() || floor == m_times.end())
             continue;
         const double ratio = time->second / floor->second;
-        out << std::setw(k_nameWidth) << target.what << std::setw(k_nameWidth) << target.floor << std::setw(8)
+        out << std::setw(nameWidth) << target.what << std::setw(nameWidth) << target.floor << std::setw(8)
             << std::setprecision(3) << ratio;
         if (target.atMost > 0) {
             const bool reached = ratio <= target.atMost;
