@@ -61,8 +61,13 @@ constexpr qint64 declaringEntity(Names entities, qint64 textSize, qint64 referen
 /// Expanding an entity.
 constexpr qint64 expandingEntity(qint64 nameSize) { return 500 + nameSize; }
 
-/// Finding the attributes of Qt's element by their numbers.
-constexpr qint64 numberingAttributes(qint64 count) { return count * count * 4; }
+/// Finding the attributes of Qt's element by their numbers: for each one, the table of all is walked through, whose
+/// entries lie scattered in memory.
+constexpr qint64 numberingAttributes(qint64 count) { return count * count * 16; }
+
+/// Looking for each attribute of Qt's element among those before it, as namespaces have it: there is no table of these
+/// names, and the texts of the namespaces, which count as characters here, are compared before them.
+constexpr qint64 comparingAttributes(Names names) { return names.count * (names.count * 16 + names.characters / 16); }
 
 /// @}
 /// @name Memory

@@ -100,28 +100,35 @@ bool Guard::startDomElement(const QString& name, const QXmlAttributes& attribute
     }
     return addMemory(cost::domElement(name.size()) + cost::domAttributes(names) + cost::domText(values)) &&
            addSteps(cost::numberingAttributes(names.count)) &&
-           (m_model != Model::DomWithNamespaces ||
-            (addSteps(cost::comparingEachOther(names)) && addNamespaces(attributes)));
+           (m_model != Model::DomWithNamespaces || addNamespaces(attributes));
 }
 
 bool Guard::addNamespaces(const QXmlAttributes& attributes)
 {
-    const cost::Names outer = m_namespaces.empty() ? cost::Names{} : m_namespaces.back();
-    cost::Names inScope = outer;
-    qint64 steps = 0;
-    for (int i = 0; i < attributes.length(); ++i) {
-        const QString name = attributes.qName(i);
-        if (isNamespaceDeclaration(name))
-            inScope.add(name.size());
-        else
-            steps += cost::findingNamespace(inScope, name.size());
-    }
-    m_namespaces.push_back(inScope);
-    if (inScope.count > outer.count)
-        steps += cost::copyingNamespaces(inScope);
+    const NamespaceScope outer = m_namespaces.empty() ? NamespaceScope{} : m_namespaces.back();
+    NamespaceScope scope = outer;
+    for (int i = 0; i < attributes.length(); ++i)
+        if (isNamespaceDeclaration(attributes.qName(i)))
+            scope.add(attributes.qName(i), attributes.value(i));
+    m_namespaces.push_back(scope);
+    qint64 steps = cost::comparingAttributes(namesWithin(scope, attributes));
+    for (int i = 0; i < attributes.length(); ++i)
+        steps += cost::findingNamespace(scope.prefixes, attributes.qName(i).size());
+    if (scope.prefixes.count > outer.prefixes.count)
+        steps += cost::copyingNamespaces(scope.prefixes);
     // Of a tag in an entity the last character is not known.
     const bool isEmptyTag = m_last != QLatin1Char('>');
-    return addSteps(steps + cost::endingNamespaces(inScope, isEmptyTag));
+    return addSteps(steps + cost::endingNamespaces(scope.prefixes, isEmptyTag));
+}
+
+cost::Names Guard::namesWithin(const NamespaceScope& scope, const QXmlAttributes& attributes)
+{
+    cost::Names names;
+    for (int i = 0; i < attributes.length(); ++i) {
+        const QString name = attributes.qName(i);
+        names.add(name.size() + (name.contains(QLatin1Char(':')) ? scope.longestNamespace : 0));
+    }
+    return names;
 }
 
 bool Guard::endElement(const QString& /*uri*/, const QString& /*localName*/, const QString& /*name*/)

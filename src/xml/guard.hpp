@@ -5,6 +5,7 @@
 #include "xml/document.hpp"
 #include "xml/open_tag.hpp"
 
+#include <algorithm>
 #include <map>
 #include <optional>
 #include <vector>
@@ -89,9 +90,23 @@ protected:
     bool isInElement() const { return m_levels > 0; }
 
 private:
+    /// The namespaces that are declared at an element or around it.
+    struct NamespaceScope
+    {
+        cost::Names prefixes;
+        qint64 longestNamespace = 0;
+
+        void add(const QString& prefix, const QString& name)
+        {
+            prefixes.add(prefix.size());
+            longestNamespace = std::max<qint64>(longestNamespace, name.size());
+        }
+    };
+
     bool startTreeElement(const QXmlAttributes& attributes);
     bool startDomElement(const QString& name, const QXmlAttributes& attributes);
     bool addNamespaces(const QXmlAttributes& attributes);
+    static cost::Names namesWithin(const NamespaceScope& scope, const QXmlAttributes& attributes);
     bool addNode(const QString& text);
     bool addSteps(qint64 steps);
     bool addMemory(qint64 bytes);
@@ -112,7 +127,7 @@ private:
     int m_levels = 0;
     std::map<QString, qint64> m_entitySizes;
     cost::Names m_entities;
-    std::vector<cost::Names> m_namespaces; ///< in scope, for each open element
+    std::vector<NamespaceScope> m_namespaces; ///< of each open element
     qint64 m_expandedBytes = 0;
     qint64 m_steps = 0;
     qint64 m_memory = 0;

@@ -55,6 +55,14 @@ auto prefixOf(std::size_t size)
 
 std::string prefixes(std::size_t count, std::size_t size) { return "<p " + numbered(count, prefixOf(size)) + '>'; }
 
+/// An element with attributes of two namespaces in turn, whose texts differ in their last character.
+std::string inTwoNamespaces(std::size_t size, std::size_t attributes)
+{
+    const std::string name(size - 1, 'u');
+    return "<b:p xmlns:b='" + name + "0' xmlns:c='" + name + "1' " +
+           numbered(attributes / 2, [](const std::string& i) { return "b:x" + i + "='' c:y" + i + "='' "; }) + "/>";
+}
+
 std::string entities(std::size_t count, std::size_t nameSize, const std::string& value)
 {
     return "<!DOCTYPE p [" +
@@ -78,9 +86,10 @@ const std::string k_memory = "nodes and attributes of more than ";
 const std::string k_expansion = "entities expand to more than 8 MiB";
 
 /// The same as a text and as a file.
-HostileDocument same(std::string name, std::function<std::string()> bytes, const std::string& outcome)
+HostileDocument same(std::string name, std::function<std::string()> bytes, const std::string& outcome,
+                     std::size_t mebibytes = 0)
 {
-    return {std::move(name), std::move(bytes), outcome, outcome};
+    return {std::move(name), std::move(bytes), outcome, outcome, mebibytes};
 }
 
 std::string contents(const std::string& elements) { return "<p uuid='u'><contents>" + elements + "</contents></p>"; }
@@ -122,13 +131,28 @@ const std::vector<HostileDocument>& largeHostileDocuments()
          [] { return in("<p>", "<n0:a " + numbered(20'000, prefixOf(6)) + "/>"); }, k_steps, k_read},
         same(
             "100000_attributes", [] { return "<p " + numbered(100'000, attributeOf(6)) + "/>"; }, k_read),
+        // Just within what is read, and just beyond.
+        same(
+            "2800_attributes_of_a_prefixed_element", [] { return "<y:p " + numbered(2800, attributeOf(6)) + "/>"; },
+            k_read),
+        {"2900_attributes_of_a_prefixed_element", [] { return "<y:p " + numbered(2900, attributeOf(6)) + "/>"; },
+         k_steps, k_read},
+        {"4000_attributes_behind_a_document_type",
+         [] { return "<!DOCTYPE p><p " + numbered(4000, attributeOf(6)) + "/>"; }, k_steps, k_read},
+        same(
+            "4200_attributes_behind_a_document_type",
+            [] { return "<!DOCTYPE p><p " + numbered(4200, attributeOf(6)) + "/>"; }, k_steps),
+        same(
+            "1600_attributes_in_namespaces_of_1000_characters", [] { return inTwoNamespaces(1000, 1600); }, k_read),
+        {"3000_attributes_in_namespaces_of_100000_characters", [] { return inTwoNamespaces(100'000, 3000); }, k_steps,
+         k_read},
         {"20000_attributes_of_a_prefixed_element", [] { return "<y:p " + numbered(20'000, attributeOf(6)) + "/>"; }, "",
          k_read},
         same(
             "attributes_behind_a_document_type",
             [] { return "<!DOCTYPE p><p " + numbered(100'000, attributeOf(6)) + "/>"; }, k_steps),
         same(
-            "4100000_attributes", [] { return "<p " + repeated(4'100'000, "a='' ") + "/>"; }, k_memory),
+            "4100000_attributes", [] { return "<p " + repeated(4'100'000, "a='' ") + "/>"; }, k_memory, 512),
         same(
             "attributes_with_long_names", [] { return "<p " + numbered(20'000, attributeOf(2000)) + "/>"; }, k_read),
         same(

@@ -1,6 +1,8 @@
 // Reads a document in a process of its own, and does with it what a caller may do; or checks it.
 // usage: zupackage_read_document text|file|check main|small PATH CPU_SECONDS MEMORY_MIB
-//   small: on a thread with a stack of 512 KiB; MEMORY_MIB: 0 for as much as there is
+//   small: on a thread with a stack of 512 KiB
+//   MEMORY_MIB: that the whole process may have taken in the end, libraries and stacks included; 0 for as much as
+//   there is
 #include <zupackage/authoring/check.hpp>
 #include <zupackage/package_info2.hpp>
 #include <zupackage/vxvalue.hpp>
@@ -14,9 +16,12 @@
 #include <limits>
 #include <pthread.h>
 #include <sstream>
+#include <string_view>
 #include <sys/resource.h>
 
 namespace {
+
+constexpr std::size_t k_addressesBesideMebibytes = 192;
 
 void limit(decltype(RLIMIT_CPU) resource, rlim_t most)
 {
@@ -64,6 +69,19 @@ std::string outcome(const std::string& form, const std::string& path)
     return "read";
 }
 
+/// What the process held at most, in MiB. What getrusage() tells includes what its parent held when it started it.
+std::size_t peakMebibytes()
+{
+    constexpr std::string_view k_peak = "VmHWM:";
+    std::ifstream status("/proc/self/status");
+    std::string word;
+    std::size_t kibibytes = 0;
+    while (status >> word)
+        if (word == k_peak)
+            status >> kibibytes;
+    return kibibytes / 1024;
+}
+
 void* callOnThread(void* function)
 {
     (*static_cast<std::function<void()>*>(function))();
@@ -87,13 +105,20 @@ int main(int argc, char** argv)
     if (argc != 6)
         return 2;
     limit(RLIMIT_CPU, std::stoul(argv[4]));
-    if (const rlim_t mebibytes = std::stoul(argv[5]); mebibytes > 0)
-        limit(RLIMIT_AS, mebibytes * 1024 * 1024);
+    const std::size_t allowed = std::stoul(argv[5]);
+    // What has no end must not take the machine along. Address space is more than memory: that of libraries, of the
+    // arenas of threads.
+    if (allowed > 0)
+        limit(RLIMIT_AS, (allowed + k_addressesBesideMebibytes) * 1024 * 1024);
     zu::log::removeHandler(zu::log::k_defaultHandler);
     const auto read = [&] { std::cout << outcome(argv[1], argv[3]) << '\n'; };
     if (std::string(argv[2]) == "small")
         runOnSmallStack(read);
     else
         read();
+    if (const std::size_t taken = peakMebibytes(); allowed > 0 && taken > allowed) {
+        std::cerr << "took " << taken << " MiB of " << allowed << '\n';
+        return 1;
+    }
     return 0;
 }
