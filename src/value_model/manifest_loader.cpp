@@ -25,30 +25,49 @@ keys::Texts textsByLanguage(xml::Node element)
     return texts;
 }
 
+/// Empty, with room for an entry for each child that is one: growing, a vector would copy what it holds.
+template <class Entry, class IsEntry>
+std::vector<Entry> roomForEach(xml::Node container, IsEntry isEntry)
+{
+    std::size_t count = 0;
+    for (const xml::Node child : container.children())
+        count += isEntry(child) ? 1u : 0u;
+    std::vector<Entry> entries;
+    entries.reserve(count);
+    return entries;
+}
+
+template <class Entry>
+std::vector<Entry> roomFor(std::string_view name, xml::Node container)
+{
+    return roomForEach<Entry>(container, [name](xml::Node child) { return child.name() == name; });
+}
+
 std::vector<zu::PackageService> services(xml::Node element)
 {
-    std::vector<zu::PackageService> services;
+    auto services = roomFor<zu::PackageService>(k_service, element);
     readServices(element, services);
     return services;
 }
 
 std::vector<std::string> executableFiles(xml::Node element)
 {
-    std::vector<std::string> paths;
+    auto paths = roomFor<std::string>(k_file, element);
     readExecutableFiles(element, paths);
     return paths;
 }
 
 keys::Requirements requirements(xml::Node element)
 {
-    keys::Requirements requirements;
+    keys::Requirements requirements{roomFor<zu::RobotRequirement>(k_robotRequirement, element),
+                                    roomFor<zu::MorvoRequirement>(k_morvoRequirement, element)};
     readRequirements(element, requirements.first, requirements.second);
     return requirements;
 }
 
 std::vector<std::string> supportedLanguages(xml::Node element)
 {
-    std::vector<std::string> languages;
+    auto languages = roomForEach<std::string>(element, [](xml::Node /*child*/) { return true; });
     for (const xml::Node child : element.children())
         languages.push_back(child.text());
     return languages;
@@ -65,18 +84,6 @@ void storeUnlessEmpty(std::vector<Record> records, keys::Key<std::vector<Record>
 {
     if (!records.empty())
         store(std::move(records), key, contents);
-}
-
-/// Empty, with room for an element for each child of that name: growing, a vector would copy the records.
-template <class Record>
-std::vector<Record> roomFor(std::string_view name, xml::Node container)
-{
-    std::size_t count = 0;
-    for (const xml::Node child : container.children())
-        count += child.name() == name ? 1u : 0u;
-    std::vector<Record> records;
-    records.reserve(count);
-    return records;
 }
 
 keys::Values contents(xml::Node element)

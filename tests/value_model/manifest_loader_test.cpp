@@ -73,6 +73,21 @@ TEST(LoadManifest, ReadsTheAttributesOfARootOfAnyName)
     EXPECT_THAT(package.elements, IsEmpty());
 }
 
+TEST(LoadManifest, ListsHaveRoomForTheirEntriesAlone)
+{
+    const auto five = [](const std::string& entry) { return entry + entry + entry + entry + entry; };
+    const PackageInfo2 package =
+        loaded(manifest("<services>" + five("<service/><other/>") + "</services><executableFiles>" + five("<file/>") +
+                        "</executableFiles><requirements>" + five("<robotRequirement/><morvoRequirement/>") +
+                        "</requirements><supportedLanguages>" + five("<l>en</l>") + "</supportedLanguages>"));
+    const auto& elements = package.elements;
+    EXPECT_EQ(elements.at("services").getIf<std::vector<PackageService>>()->capacity(), 5u);
+    EXPECT_EQ(elements.at("executableFiles").getIf<std::vector<std::string>>()->capacity(), 5u);
+    EXPECT_EQ(elements.at("requirements").getIf<Requirements>()->first.capacity(), 5u);
+    EXPECT_EQ(elements.at("requirements").getIf<Requirements>()->second.capacity(), 5u);
+    EXPECT_EQ(elements.at("supportedLanguages").getIf<std::vector<std::string>>()->capacity(), 5u);
+}
+
 TEST(LoadManifest, TrueAndOneAloneSetTheStartupFlag)
 {
     for (const char* text : {"true", "1"})
