@@ -19,10 +19,11 @@ namespace {
 const std::string k_crooked = "<package version='1' uuid='a'><contents/>\n</package>";
 const std::string k_straight = "<package uuid='a' version='1'>\n  <contents/>\n</package>\n";
 
-ProgramResult format(std::vector<std::string> arguments, const std::string& input = {})
+ProgramResult format(std::vector<std::string> arguments, const std::string& input = {},
+                     const std::string& outputFile = {})
 {
     arguments.insert(arguments.begin(), "format");
-    return test::runProgram(ZUPACKAGE_PROGRAM, arguments, {input, {}, {}});
+    return test::runProgram(ZUPACKAGE_PROGRAM, arguments, {input, outputFile, {}});
 }
 
 class Format : public testing::Test
@@ -104,6 +105,31 @@ TEST_F(Format, WhatCannotBeReadIsReportedAndTheOthersAreFormatted)
     EXPECT_THAT(result.errors, HasSubstr("zupackage: there is no manifest.xml in " + path("c") + "\n"));
     EXPECT_EQ(test::readFile(path("a/manifest.xml")), k_straight);
     EXPECT_EQ(format({}).exitCode, 2);
+}
+
+TEST_F(Format, OutputThatCannotBeWrittenIsAFailureOfItsOwn)
+{
+    const std::string message = "zupackage: cannot write to standard output: No space left on device\n";
+    const std::vector<std::vector<std::string>> commands{{"-"}, {"--check", path("a")}, {"--diff", path("a")}};
+    for (const std::vector<std::string>& arguments : commands) {
+        SCOPED_TRACE(arguments.front());
+        const ProgramResult result = format(arguments, k_crooked, "/dev/full");
+        EXPECT_EQ(result.exitCode, 5);
+        EXPECT_EQ(result.errors, message);
+    }
+    // It is worse than what cannot be read.
+    EXPECT_EQ(format({"--check", path("none"), path("a")}, {}, "/dev/full").exitCode, 5);
+}
+
+TEST_F(Format, AManifestThatCannotBeReplacedIsReportedAndStays)
+{
+    // A file that may not grow fails as one on a full disk does, and needs no rights to be made.
+    const ProgramResult result = test::runProgram(
+        "/bin/sh", {"-c", "trap '' XFSZ; ulimit -f 0; exec \"$@\"", "sh", ZUPACKAGE_PROGRAM, "format", path("a")});
+    EXPECT_EQ(result.exitCode, 5);
+    EXPECT_THAT(result.errors, HasSubstr("zupackage: "));
+    EXPECT_THAT(result.errors, HasSubstr(path("a/manifest.xml")));
+    EXPECT_EQ(test::readFile(path("a/manifest.xml")), k_crooked);
 }
 
 TEST_F(Format, TheExamplesAreInForm)

@@ -39,6 +39,16 @@ TEST(Schema, WritesWhatIsInstalled)
     EXPECT_EQ(run({"schema", "--format", "dtd"}).exitCode, 2);
 }
 
+TEST(Schema, OutputThatCannotBeWrittenIsAFailureOfItsOwn)
+{
+    for (const char* format : {"xsd", "json"}) {
+        const test::ProgramResult result =
+            test::runProgram(ZUPACKAGE_PROGRAM, {"schema", "--format", format}, {{}, "/dev/full", {}});
+        EXPECT_EQ(result.exitCode, 5);
+        EXPECT_EQ(result.errors, "zupackage: cannot write to standard output: No space left on device\n");
+    }
+}
+
 TEST(Schema, TheCatalogLeadsToItsFile)
 {
     const std::string manifest = test::sourcePath("examples/packages/story-teller/manifest.xml").string();
