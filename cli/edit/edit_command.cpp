@@ -22,7 +22,8 @@ void acceptEditArguments(EditArguments& parsed, Arguments& arguments)
 {
     arguments.require(parsed.source, "FILE", "FILE|FOLDER|-",
                       "A manifest file, a package folder (its manifest.xml), or - for standard input to standard "
-                      "output");
+                      "output. The file is replaced as a whole and keeps its mode, its owner and the symbolic links "
+                      "to it; other hard links keep the old content");
     arguments.flag(parsed.isForced, "--force", "Make also what manifests do not have, and values of the wrong kind");
     arguments.flag(parsed.isDryRun, "--dry-run", "Show the difference, and leave the file as it is");
 }

@@ -4,11 +4,12 @@
 
 #include <zupackage/package_info.hpp>
 
-#include <QtCore/QFileInfo>
+#include <QtCore/QFile>
 #include <QtCore/QSaveFile>
 
 #include <filesystem>
 #include <stdexcept>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -41,11 +42,28 @@ QString fileBehind(const QString& path)
     return QFile::decodeName(linkTarget(QFile::encodeName(path).toStdString()).c_str());
 }
 
-void keepOwner(QSaveFile& file, const QFileInfo& present)
+void keepOwner(QSaveFile& file, const struct stat& present)
 {
-    const bool isKept = fchown(file.handle(), present.ownerId(), present.groupId()) == 0 ||
-                        fchown(file.handle(), static_cast<uid_t>(-1), present.groupId()) == 0;
+    const bool isKept = fchown(file.handle(), present.st_uid, present.st_gid) == 0 ||
+                        fchown(file.handle(), static_cast<uid_t>(-1), present.st_gid) == 0;
     static_cast<void>(isKept); // where that is not allowed, the file is the writer's
+}
+
+/// QSaveFile takes what this process may do for what the owner may, so that it lets the owner write what root can.
+/// Comes last, for a change of owner and, by others than root, writing take the set-id bits away.
+void keepMode(QSaveFile& file, const struct stat& present)
+{
+    constexpr mode_t k_modeBits = 07777;
+    mode_t mode = present.st_mode & k_modeBits;
+    struct stat own = {};
+    const bool isKnown = fstat(file.handle(), &own) == 0;
+    // Nobody is to act as the writer because the file was another's.
+    if (!isKnown || own.st_uid != present.st_uid)
+        mode &= ~static_cast<mode_t>(S_ISUID);
+    if (!isKnown || own.st_gid != present.st_gid)
+        mode &= ~static_cast<mode_t>(S_ISGID);
+    const bool isKept = fchmod(file.handle(), mode) == 0;
+    static_cast<void>(isKept); // some file systems have one mode for all files
 }
 
 void write(QSaveFile& file, const std::string& content)
@@ -66,17 +84,21 @@ void replaceFile(const QString& path, const std::string& content)
         fail(std::errc::no_such_file_or_directory);
     if (path.contains(QChar(0)))
         fail(std::errc::invalid_argument);
-    const QFileInfo present(fileBehind(path));
+    const QString target = fileBehind(path);
+    struct stat present = {};
+    const bool isPresent = stat(QFile::encodeName(target).constData(), &present) == 0;
     // A device or a pipe would be replaced by a file, and what reads it would not see anything.
-    if (present.exists() && !present.isFile())
+    if (isPresent && !S_ISREG(present.st_mode))
         fail(QStringLiteral("Not a regular file"));
-    QSaveFile file(present.filePath());
+    QSaveFile file(target);
     // Without a buffer, because what does not fit is written in part, and only writing the rest gives the reason.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         fail(file.errorString());
-    if (present.exists())
+    if (isPresent)
         keepOwner(file, present);
     write(file, content);
+    if (isPresent)
+        keepMode(file, present);
     if (!file.commit())
         fail(file.errorString());
 }

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include <csignal>
+#include <grp.h>
 #include <iostream>
 #include <sched.h>
 #include <sys/mount.h>
@@ -70,10 +71,11 @@ void limitFileSize()
     setrlimit(RLIMIT_FSIZE, &limit);
 }
 
+constexpr id_t k_nobody = 65534;
+
 /// Root may write everything.
 void dropPrivileges()
 {
-    constexpr uid_t k_nobody = 65534;
     if (geteuid() == 0 && setuid(k_nobody) != 0)
         std::_Exit(2);
 }
@@ -141,11 +143,23 @@ TEST_F(ManifestSaver, AFailureNamesPathAndReasonAndIsNotLogged)
 TEST_F(ManifestSaver, KeepsThePermissionsOfTheFile)
 {
     const std::string file = folder.file("manifest.xml", "old");
-    for (const mode_t mode : {0600U, 0640U, 0664U, 0755U}) {
+    std::vector<mode_t> modes = {0600, 0640, 0664, 0755};
+    if (geteuid() == 0) // who alone may write the others
+        modes.insert(modes.end(), {0, 0066, 0400, 0440, 0444, 0555, 01644, 02755, 04755});
+    for (const mode_t mode : modes) {
         ASSERT_EQ(chmod(file.c_str(), mode), 0);
         saveManifest(package, file);
         EXPECT_EQ(fs::status(file).permissions(), static_cast<fs::perms>(mode));
     }
+}
+
+TEST_F(ManifestSaver, OtherHardLinksKeepTheOldContent)
+{
+    const std::string file = folder.file("manifest.xml", "old");
+    fs::create_hard_link(file, path("hard.xml"));
+    saveManifest(package, file);
+    EXPECT_EQ(test::readFile(file), content);
+    EXPECT_EQ(test::readFile(path("hard.xml")), "old");
 }
 
 TEST_F(ManifestSaver, ANewFileHasThePermissionsOfNewFiles)
@@ -246,6 +260,24 @@ TEST_F(ManifestSaverDeathTest, AFolderThatMayNotBeWrittenIsReportedAndTheOldFile
         ExitedWithCode(1), "Could not write .*/manifest.xml: Permission denied");
     EXPECT_EQ(test::readFile(file), "old");
     ASSERT_EQ(chmod(folder.path().c_str(), 0755), 0);
+}
+
+TEST_F(ManifestSaverDeathTest, AFileOfAnotherOwnerDoesNotComeToActAsItsWriter)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can be two users";
+    const std::string file = folder.file("manifest.xml", "old");
+    ASSERT_EQ(chmod(file.c_str(), 06777), 0);
+    ASSERT_EQ(chmod(folder.path().c_str(), 0777), 0);
+    EXPECT_EXIT(
+        {
+            if (setgroups(0, nullptr) != 0 || setgid(k_nobody) != 0)
+                std::_Exit(2);
+            dropPrivileges();
+            saveAndExit(package, file);
+        },
+        ExitedWithCode(1), "^no failure$");
+    EXPECT_EQ(fs::status(file).permissions(), static_cast<fs::perms>(0777));
 }
 
 TEST_F(ManifestSaverDeathTest, AFileThatMayNotBeWrittenIsReportedAndStays)
