@@ -1,5 +1,6 @@
 #include "support/edited_packages.hpp"
 #include "support/property.hpp"
+#include "support/records.hpp"
 
 #include <zupackage/authoring/package_difference.hpp>
 #include <zupackage/authoring/package_merge.hpp>
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <list>
 #include <sstream>
 
 namespace zu::authoring {
@@ -22,6 +24,27 @@ PackageInfo editedCopy(const PackageInfo& package)
     PackageInfo copy = package;
     test::editAnything(copy, 4);
     return copy;
+}
+
+using Tags = std::vector<std::string>;
+
+constexpr const char* k_tags[] = {"a", "b", "c", "d"};
+
+Tags anyTags()
+{
+    const auto tag = rc::gen::map(rc::gen::inRange(0, 4), [](int i) { return std::string(k_tags[i]); });
+    const auto size = *rc::gen::resize(rc::kNominalSize, rc::gen::inRange<std::size_t>(0, 5));
+    return *rc::gen::container<Tags>(size, rc::gen::resize(rc::kNominalSize, tag));
+}
+
+/// A package with one behavior that has these tags.
+PackageInfo packageWith(const Tags& tags)
+{
+    PackageInfo package;
+    package.addBehavior(test::behaviorAt("b"));
+    for (const std::string& tag : tags)
+        package.behaviors().front().addTag(tag, "en");
+    return package;
 }
 
 /// The words of a text in an order of their own.
@@ -93,6 +116,28 @@ TEST(PackageMergeProperties, SidesThatChangePlacesMakeTheSameUpToOrder)
     if (count >= 2'000) { // few inputs may have none by chance
         EXPECT_GT(conflicts, count / 1'000);
     }
+}
+
+TEST(PackageMergeProperties, NoTagIsThereMoreOftenThanOnASideAndWhatOneRemovedAndTheOtherLeftIsGone)
+{
+    test::checkProperty(10'000, [] {
+        const Tags base = anyTags();
+        const Tags ours = anyTags();
+        const Tags theirs = anyTags();
+        const PackageMerge merged = mergePackages(packageWith(base), packageWith(ours), packageWith(theirs));
+        for (const PackageInfo* side : {&merged.ours, &merged.theirs}) {
+            const std::list<std::string> tags = side->behaviors().front().tags("en");
+            for (const char* tag : k_tags) {
+                const auto inBase = std::count(base.begin(), base.end(), tag);
+                const auto inOurs = std::count(ours.begin(), ours.end(), tag);
+                const auto inTheirs = std::count(theirs.begin(), theirs.end(), tag);
+                const auto count = std::count(tags.begin(), tags.end(), tag);
+                RC_ASSERT(count <= std::max(inOurs, inTheirs));
+                RC_ASSERT(inBase != inTheirs || inOurs > inBase || count <= inOurs);
+                RC_ASSERT(inBase != inOurs || inTheirs > inBase || count <= inTheirs);
+            }
+        }
+    });
 }
 
 TEST(PackageMergeProperties, EditsOfDifferentSectionsAreBothThere)

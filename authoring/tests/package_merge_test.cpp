@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <list>
+
 namespace zu::authoring {
 
 using test::packageFrom;
@@ -35,6 +37,22 @@ std::vector<std::string> linesOf(const std::vector<MergeConflict>& conflicts)
     for (const MergeConflict& conflict : conflicts)
         lines.push_back(conflict.path + ": " + conflict.base + " | " + conflict.ours + " | " + conflict.theirs);
     return lines;
+}
+
+std::list<std::string> mergedTags(const std::vector<std::string>& base, const std::vector<std::string>& ours,
+                                  const std::vector<std::string>& theirs)
+{
+    const auto packageWith = [](const std::vector<std::string>& tags) {
+        BehaviorInfo behavior = test::behaviorAt("b");
+        for (const std::string& tag : tags)
+            behavior.addTag(tag, "en");
+        PackageInfo package;
+        package.addBehavior(behavior);
+        return package;
+    };
+    const PackageMerge merged = mergePackages(packageWith(base), packageWith(ours), packageWith(theirs));
+    EXPECT_THAT(merged.conflicts, IsEmpty());
+    return merged.ours.behaviors().front().tags("en");
 }
 
 PackageInfo packageWithBehaviors(const std::vector<std::string>& paths)
@@ -107,6 +125,14 @@ TEST(PackageMerge, WhatBothSidesDidIsDoneOnce)
     EXPECT_THAT(merged.conflicts, IsEmpty());
     EXPECT_THAT(merged.ours.supportedLanguages(), ElementsAre("en", "fr", "ja"));
     EXPECT_THAT(merged.ours.executableFiles(), ElementsAre("x"));
+}
+
+TEST(PackageMerge, WhatBothSidesAddedInDifferentPlacesIsThereOnce)
+{
+    EXPECT_THAT(mergedTags({"d"}, {"g", "d"}, {"g"}), ElementsAre("g"));
+    EXPECT_THAT(mergedTags({"e"}, {"b"}, {"e", "m", "b"}), ElementsAre("m", "b"));
+    EXPECT_THAT(mergedTags({"a", "b"}, {"g", "b"}, {"a", "g"}), ElementsAre("g"));
+    EXPECT_THAT(mergedTags({"d"}, {"g"}, {"g"}), ElementsAre("g"));
 }
 
 TEST(PackageMerge, TheOrderOfTheSideThatChangedItStands)

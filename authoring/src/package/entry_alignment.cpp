@@ -174,7 +174,7 @@ private:
         std::vector<AlignedEntry> result;
         appendGone(result, 0);
         for (std::size_t j = 0; j < m_after.size(); ++j) {
-            result.push_back({m_counterpart[j], j, m_counterpart[j] && !m_rises[j] && !m_tookPlace[j]});
+            result.push_back({m_counterpart[j], j, m_counterpart[j] && !m_rises[j] && !m_tookPlace[j], m_tookPlace[j]});
             if (m_rises[j])
                 appendGone(result, *m_counterpart[j] + 1);
         }
@@ -192,7 +192,7 @@ private:
     {
         for (; from < m_before.size() && !m_anchors[from]; ++from) {
             if (!m_isMatched[from])
-                result.push_back({from, std::nullopt, false});
+                result.push_back({from, std::nullopt});
         }
     }
 

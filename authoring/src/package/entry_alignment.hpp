@@ -16,6 +16,7 @@ struct AlignedEntry
     std::optional<std::size_t> before; ///< its place in the list before; nothing for one that is new
     std::optional<std::size_t> after;  ///< its place in the list after; nothing for one that is gone
     bool isMoved = false;              ///< against the order of those that are not
+    bool tookPlace = false;            ///< nothing but its place makes it the one before
 };
 
 /// Which of the children of two elements of one kind are the same: by what identifies them, then speech languages of

@@ -5,12 +5,54 @@
 #include <list>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace zupackage::authoring {
 
 namespace {
 
 using Entries = std::vector<PackageElement>;
+
+/// Which entries of one side are those of the base.
+class Counterparts
+{
+public:
+    Counterparts(const Entries& base, const Entries& side) : m_keys(side.size())
+    {
+        std::vector<bool> isIdentified(side.size());
+        for (const AlignedEntry& aligned : align(base, side)) {
+            if (!aligned.before || !aligned.after)
+                continue;
+            m_aligned.push_back(aligned);
+            isIdentified[*aligned.after] = !aligned.tookPlace;
+        }
+        KeyCounter counter;
+        for (std::size_t i = 0; i < side.size(); ++i) {
+            if (!isIdentified[i])
+                m_keys[i] = counter.keyOf(side[i]);
+        }
+    }
+
+    /// Of each entry what it is known by among those that the base does not have; empty for those that it has.
+    const std::vector<std::string>& keys() const { return m_keys; }
+
+    /// The entries that are in the base. What took the place of another is a new one where the other side has it, too:
+    /// otherwise it would be there twice, here as a change and there as an addition.
+    std::vector<AlignedEntry> besides(const Counterparts& other) const
+    {
+        const std::unordered_set<std::string> others(other.m_keys.begin(), other.m_keys.end());
+        std::vector<AlignedEntry> entries;
+        for (const AlignedEntry& aligned : m_aligned) {
+            if (!aligned.tookPlace || others.count(m_keys[*aligned.after]) == 0)
+                entries.push_back(aligned);
+        }
+        return entries;
+    }
+
+private:
+    std::vector<AlignedEntry> m_aligned;
+    std::vector<std::string> m_keys;
+};
 
 class EntryMerge
 {
@@ -20,15 +62,13 @@ public:
     {
         for (std::size_t b = 0; b < base.size(); ++b)
             m_entries[b].base = b;
-        for (const AlignedEntry& aligned : align(base, ours)) {
-            if (aligned.before && aligned.after)
-                addOurs(*aligned.before, *aligned.after, aligned.isMoved);
-        }
-        for (const AlignedEntry& aligned : align(base, theirs)) {
-            if (aligned.before && aligned.after)
-                addTheirs(*aligned.before, *aligned.after, aligned.isMoved);
-        }
-        addNew(ours, theirs);
+        const Counterparts ofOurs(base, ours);
+        const Counterparts ofTheirs(base, theirs);
+        for (const AlignedEntry& aligned : ofOurs.besides(ofTheirs))
+            addOurs(*aligned.before, *aligned.after, aligned.isMoved);
+        for (const AlignedEntry& aligned : ofTheirs.besides(ofOurs))
+            addTheirs(*aligned.before, *aligned.after, aligned.isMoved);
+        addNew(ofOurs.keys(), ofTheirs.keys());
     }
 
     std::vector<MergedEntry> inOrder()
@@ -74,35 +114,21 @@ private:
     }
 
     /// What is new on both sides is one entry when it is known by the same.
-    void addNew(const Entries& ours, const Entries& theirs)
+    void addNew(const std::vector<std::string>& keysOfOurs, const std::vector<std::string>& keysOfTheirs)
     {
         std::unordered_map<std::string, std::size_t> newOurs;
-        const std::vector<std::string> keysOfOurs = keysOf(ours, m_ofOurs);
-        for (std::size_t o = 0; o < ours.size(); ++o) {
+        for (std::size_t o = 0; o < keysOfOurs.size(); ++o) {
             if (m_ofOurs[o])
                 continue;
             addOurs(addEntry(), o, false);
             newOurs.emplace(keysOfOurs[o], *m_ofOurs[o]);
         }
-        const std::vector<std::string> keysOfTheirs = keysOf(theirs, m_ofTheirs);
-        for (std::size_t t = 0; t < theirs.size(); ++t) {
+        for (std::size_t t = 0; t < keysOfTheirs.size(); ++t) {
             if (m_ofTheirs[t])
                 continue;
             const auto same = newOurs.find(keysOfTheirs[t]);
             addTheirs(same == newOurs.end() ? addEntry() : same->second, t, false);
         }
-    }
-
-    /// The keys of those that are new, as if no others were there.
-    static std::vector<std::string> keysOf(const Entries& entries, const std::vector<std::optional<std::size_t>>& known)
-    {
-        std::vector<std::string> keys(entries.size());
-        KeyCounter counter;
-        for (std::size_t i = 0; i < entries.size(); ++i) {
-            if (!known[i])
-                keys[i] = counter.keyOf(entries[i]);
-        }
-        return keys;
     }
 
     bool isNewOurs(std::size_t entry) const { return !m_entries[entry].base && !m_entries[entry].theirs; }
