@@ -74,8 +74,16 @@ private:
 
 std::string withConflictMarks(const SourceDocument& ours, const SourceDocument& theirs, const ConflictMarks& marks)
 {
-    const authoring::ByteRange whole = ours.document().contentRange();
     MarkedLines lines(marks, charactersOf(ours.lineEnd()));
+    constexpr std::string_view k_utf8 = "UTF-8";
+    // A byte order mark belongs to the first line of each side then, as git has it. A mark of a conflict behind it
+    // would not begin its line.
+    if (ours.encoding() == k_utf8 && theirs.encoding() == k_utf8) {
+        for (const LineStep& step : lineSteps(ours.text(), theirs.text()))
+            lines.add(step);
+        return lines.take();
+    }
+    const authoring::ByteRange whole = ours.document().contentRange();
     for (const LineStep& step : lineSteps(ours.source(whole), theirs.source(theirs.document().contentRange())))
         lines.add(step);
     // The one edit replaces all, so that it always fits.

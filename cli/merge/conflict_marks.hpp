@@ -16,7 +16,9 @@ struct ConflictMarks
 };
 
 /// The bytes of `ours` where each run of lines that is another one in `theirs` stands between marks, with that one
-/// behind it. The marks have the line ends and the encoding of the document.
+/// behind it. The marks have the line ends and the encoding of the document. Each begins its line: a byte order mark
+/// stands behind it, before the first line of each side, in UTF-8; in other encodings, which are known by it, it comes
+/// first of all.
 std::string withConflictMarks(const authoring::SourceDocument& ours, const authoring::SourceDocument& theirs,
                               const ConflictMarks& marks);
 

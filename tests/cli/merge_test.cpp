@@ -95,6 +95,15 @@ TEST_F(MergeCommand, MarksHaveTheEncodingOfTheDocument)
     EXPECT_EQ(result.output, utf16("<<<<<<< ours\n<p version='2'/>\n=======\n<p version='3'/>\n>>>>>>> theirs\n"));
 }
 
+TEST_F(MergeCommand, AByteOrderMarkStandsInTheFirstLineOfEachSideSoThatMarksBeginTheirs)
+{
+    const std::string mark = "\xEF\xBB\xBF";
+    const ProgramResult result =
+        merge(mark + "<p version='1'/>\n", mark + "<p version='2'/>\n", mark + "<p version='3'/>\n");
+    EXPECT_EQ(result.output,
+              "<<<<<<< ours\n" + mark + "<p version='2'/>\n=======\n" + mark + "<p version='3'/>\n>>>>>>> theirs\n");
+}
+
 TEST_F(MergeCommand, WarnsOfTheirTextThatIsNotMerged)
 {
     const ProgramResult result = merge(k_base, k_base, replaced(k_base, "kept", "changed"));
