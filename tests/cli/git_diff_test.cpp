@@ -10,6 +10,7 @@ using test::GitRepository;
 using test::k_waveManifest;
 using test::replaced;
 using test::withName;
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -36,9 +37,15 @@ protected:
 
 TEST_F(GitDiff, ShowsManifestsAsTextWhereItComparesLines)
 {
-    configure("diff.zupackage.textconv", "show");
+    configure("diff.zupackage.textconv", "convert --to json");
     test::writeFile(repository.path("manifest.xml"), withName("fr", "Saluer"));
-    EXPECT_THAT(repository.run({"diff"}), HasSubstr("\n+  fr -> Saluer\n"));
+    EXPECT_THAT(repository.run({"diff"}), HasSubstr("\n+    \"fr\": \"Saluer\"\n"));
+    test::writeFile(
+        repository.path("manifest.xml"),
+        replaced(k_waveManifest, "</package>",
+                 "<services><service name='clock' execStart='bin/clock'/></services>"
+                 "<requirements><robotRequirement model='M' minHeadVersion='2'/></requirements></package>"));
+    EXPECT_THAT(repository.run({"diff"}), AllOf(HasSubstr("\"bin/clock\""), HasSubstr("\"minHeadVersion\": \"2\"")));
     test::writeFile(repository.path("manifest.xml"), replaced(k_waveManifest, "for people", "for all"));
     EXPECT_THAT(repository.run({"diff"}), Not(HasSubstr("@@")));
 }
