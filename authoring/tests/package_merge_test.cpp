@@ -227,18 +227,35 @@ TEST(ManifestMerge, WithoutTheirChangesEveryByteOfOursStays)
     }
 }
 
-TEST(ManifestMerge, SaysWhenTheyChangedWhatIsNoPartOfThePackage)
+TEST(ManifestMerge, TellsWhatTheyChangedThatIsNoPartOfThePackage)
 {
     const std::string base = "<p><!-- a --><names>\n</names></p>";
-    for (const char* theirs :
-         {"<p><!-- b --></p>", "<p/>", "<p odd='1'><!-- a --></p>", "<p><!-- a --><odd/></p>",
-          "<p><!-- a --><?odd?></p>", "<p><!-- a --><contents><webContent path='w'/></contents></p>"})
-        EXPECT_TRUE(mergeManifests(base, base, theirs).leavesTextBehind) << theirs;
-    for (const char* theirs : {"<p  version='2'><!-- a --></p>", "<p><!-- a --><names><n lang='en'>A</n></names></p>"})
-        EXPECT_FALSE(
-            mergeManifests(base, "<p version='2'><names><n lang='en'>A</n></names></p>", theirs).leavesTextBehind)
-            << theirs;
-    EXPECT_FALSE(mergeManifests(base, "<p><!-- b --></p>", "<p><!-- b --></p>").leavesTextBehind);
+    const std::pair<const char*, std::vector<std::string>> cases[] = {
+        {"<p><!-- b --></p>", {"-<!-- a -->", "+<!-- b -->"}},
+        {"<p/>", {"-<!-- a -->"}},
+        {"<p odd='1'><!-- a --></p>", {"+odd='1'"}},
+        {"<p><!-- a --><odd/></p>", {"+<odd/>"}},
+        {"<p><!-- a --><?odd?></p>", {"+<?odd?>"}},
+        {"<p><!-- a --><!-- a --></p>", {"+<!-- a -->"}},
+        {"<p><!-- a --><contents><webContent path='w'/></contents></p>", {"+<webContent path='w'/>"}},
+        {"<p  version='2'><!-- a --></p>", {}},
+        {"<p><!-- a --><names><n lang='en'>A</n></names></p>", {}},
+    };
+    for (const auto& [theirs, expected] : cases) {
+        std::vector<std::string> texts;
+        for (const UnmergedText& text : mergeManifests(base, base, theirs).leftBehind)
+            texts.push_back((text.isRemoved ? "-" : "+") + text.text);
+        EXPECT_EQ(texts, expected) << theirs;
+    }
+}
+
+TEST(ManifestMerge, LeavesNothingBehindThatOursHasOrThatGoesWithAnEntry)
+{
+    const std::string commented = "<p><!-- b --></p>";
+    EXPECT_THAT(mergeManifests("<p><!-- a --></p>", commented, commented).leftBehind, IsEmpty());
+    EXPECT_THAT(mergeManifests("<p/>", "<p><!-- a --><!-- b --></p>", commented).leftBehind, IsEmpty());
+    const std::string base = "<p><services><service name='s'><!-- a --></service></services></p>";
+    EXPECT_THAT(mergeManifests(base, base, "<p><services/></p>").leftBehind, IsEmpty());
 }
 
 TEST(ManifestMerge, ABaseWithoutBytesIsAnEmptyPackage)

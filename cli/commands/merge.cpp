@@ -4,10 +4,11 @@
 #include "edit/edit_command.hpp"
 #include "manifest_bytes.hpp"
 #include "merge/conflict_marks.hpp"
+#include "merge/line_merge.hpp"
+#include "merge/text_merge.hpp"
 #include "output.hpp"
 
 #include <zupackage/authoring/manifest_editor.hpp>
-#include <zupackage/authoring/package_merge.hpp>
 
 #include <algorithm>
 #include <memory>
@@ -27,27 +28,47 @@ struct MergeArguments
     std::string ours;
     std::string theirs;
     std::string output = "-";
+    std::string name;
     std::string markerSize = "7";
     std::vector<std::string> labels;
 };
 
-/// The bytes of a manifest that can be read.
-/// @return nothing when it cannot, which standard error tells then.
-std::optional<std::string> manifestIn(const std::string& source, bool mayBeEmpty)
+/// One of the three manifests.
+struct Side
+{
+    std::string name; ///< as messages show it
+    std::string path;
+    std::string bytes = {};
+};
+
+/// git gives copies of a manifest that have names of no meaning.
+Side sideOf(const MergeArguments& arguments, const std::string& source, const char* role)
 {
     const std::string path = manifestPath(source);
-    std::string bytes;
+    return {displayed(arguments.name.empty() ? shownName(path) : arguments.name + " (" + role + ")"), path};
+}
+
+bool failedToRead(const Side& side, const std::string& reason)
+{
+    complain("cannot read " + side.name + ": " + reason);
+    return false;
+}
+
+/// @return false when the file cannot be read, which standard error tells then.
+bool readBytes(Side& side)
+{
     std::string failure;
+    return readManifestBytes(side.path, side.bytes, failure) || failedToRead(side, failure);
+}
+
+/// @return false when the bytes are no manifest, which standard error tells then.
+bool isManifest(const Side& side)
+{
     PackageInfo package;
     ManifestSyntaxError error;
-    if (readManifestBytes(path, bytes, failure)) {
-        if ((mayBeEmpty && bytes.empty()) || readManifest(bytes, package, &error))
-            return bytes;
-        failure =
-            "line " + std::to_string(error.line) + ", column " + std::to_string(error.column) + ": " + error.message;
-    }
-    complain("cannot read " + shownName(path) + ": " + failure);
-    return std::nullopt;
+    return readManifest(side.bytes, package, &error) ||
+           failedToRead(side, "line " + std::to_string(error.line) + ", column " + std::to_string(error.column) + ": " +
+                                  error.message);
 }
 
 /// What the options say about marks; nothing when that makes no sense, which standard error tells then.
@@ -69,18 +90,43 @@ std::optional<ConflictMarks> marksOf(const MergeArguments& arguments)
     return marks;
 }
 
-ExitCode writeMerge(const ManifestMerge& merged, const MergeArguments& arguments, const ConflictMarks& marks)
+/// Without conflicts the sides are the same.
+ExitCode writeSides(const std::string& ours, const std::string& theirs, const MergeArguments& arguments,
+                    const ConflictMarks& marks)
 {
-    if (merged.leavesTextBehind)
-        complain("warning: " + shownName(arguments.theirs) +
-                 " has other comments, or other things that are no part of a package; they are not merged");
-    if (merged.conflicts.empty())
-        return writeDocument(arguments.output, merged.ours);
+    if (ours == theirs)
+        return writeDocument(arguments.output, ours);
+    return writeDocument(arguments.output,
+                         withConflictMarks(SourceDocument::parse(ours), SourceDocument::parse(theirs), marks));
+}
+
+/// Says what of their text is not in the merge.
+void complainOf(const std::vector<authoring::UnmergedText>& leftBehind, const Side& theirs)
+{
+    constexpr std::size_t k_width = 100;
+    for (const authoring::UnmergedText& text : leftBehind)
+        complain(theirs.name + (text.isRemoved ? " removes, and the merge keeps: " : " adds, and the merge lacks: ") +
+                 shortened(text.text, k_width));
+}
+
+ExitCode writeMerge(const ManifestMerge& merged, const Side& theirs, const MergeArguments& arguments,
+                    const ConflictMarks& marks)
+{
+    const std::string place = arguments.name.empty() ? std::string() : displayed(arguments.name) + ": ";
     for (const authoring::MergeConflict& conflict : merged.conflicts)
-        complain("both sides changed " + displayed(conflict.path));
-    return worse(k_findings,
-                 writeDocument(arguments.output, withConflictMarks(SourceDocument::parse(merged.ours),
-                                                                   SourceDocument::parse(merged.theirs), marks)));
+        complain(place + "both sides changed " + displayed(conflict.path));
+    complainOf(merged.leftBehind, theirs);
+    const bool isAll = merged.conflicts.empty() && merged.leftBehind.empty();
+    return worse(isAll ? k_success : k_findings, writeSides(merged.ours, merged.theirs, arguments, marks));
+}
+
+/// Where nobody can tell what package both sides began with, the lines say what they changed.
+ExitCode mergeLines(const Side& base, const Side& ours, const Side& theirs, const MergeArguments& arguments,
+                    const ConflictMarks& marks)
+{
+    complain("so that lines are merged, not packages");
+    return worse(k_inputFailed, writeSides(mergedLines(base.bytes, ours.bytes, theirs.bytes),
+                                           mergedLines(base.bytes, theirs.bytes, ours.bytes), arguments, marks));
 }
 
 ExitCode merge(const MergeArguments& arguments)
@@ -93,17 +139,20 @@ ExitCode merge(const MergeArguments& arguments)
         complain("only one of the manifests can be standard input");
         return k_usage;
     }
-    const std::optional<std::string> base = manifestIn(arguments.base, true);
-    const std::optional<std::string> ours = manifestIn(arguments.ours, false);
-    const std::optional<std::string> theirs = manifestIn(arguments.theirs, false);
-    if (!base || !ours || !theirs)
+    Side base = sideOf(arguments, arguments.base, "base");
+    Side ours = sideOf(arguments, arguments.ours, "ours");
+    Side theirs = sideOf(arguments, arguments.theirs, "theirs");
+    const bool areRead[] = {readBytes(base), readBytes(ours) && isManifest(ours),
+                            readBytes(theirs) && isManifest(theirs)};
+    if (!areRead[0] || !areRead[1] || !areRead[2])
         return k_inputFailed;
+    if (!base.bytes.empty() && !isManifest(base))
+        return mergeLines(base, ours, theirs, arguments, *marks);
     try {
-        return writeMerge(authoring::mergeManifests(*base, *ours, *theirs), arguments, *marks);
+        return writeMerge(mergedTexts(base.bytes, ours.bytes, theirs.bytes), theirs, arguments, *marks);
     } catch (const ManifestEditError& error) {
-        complain("cannot edit " + shownName(manifestPath(arguments.ours)) + ": line " +
-                 std::to_string(error.place().line) + ", column " + std::to_string(error.place().column) + ": " +
-                 error.what());
+        complain("cannot edit " + ours.name + ": line " + std::to_string(error.place().line) + ", column " +
+                 std::to_string(error.place().column) + ": " + error.what());
         return k_inputFailed;
     }
 }
@@ -115,10 +164,11 @@ std::function<ExitCode()> prepare(Arguments& arguments)
                       "The manifest that both sides started from; an empty file when there was none");
     arguments.require(parsed->ours, "OURS", "FILE|FOLDER|-", "The manifest whose text receives the changes of THEIRS");
     arguments.require(parsed->theirs, "THEIRS", "FILE|FOLDER|-",
-                      "The other one; of its text nothing counts but the package");
+                      "The other one, whose comments and the like come along where lines tell how");
     arguments.option(parsed->output, "-o,--output", "FILE",
                      "Where the result goes, instead of standard output; may be OURS. It stays as it is when one of "
-                     "the three cannot be read");
+                     "the two sides cannot be read");
+    arguments.option(parsed->name, "--name", "PATH", "What messages call the manifest, whatever the three files are");
     arguments.option(parsed->markerSize, "--marker-size", "N", "How long the marks of conflicts are; by default 7");
     arguments.repeated(parsed->labels, "-L,--label", "TEXT",
                        "What stands behind the marks of OURS, and, given twice, of THEIRS");
@@ -127,8 +177,10 @@ std::function<ExitCode()> prepare(Arguments& arguments)
 
 constexpr Example k_examples[] = {
     {"zupackage merge base.xml ours.xml theirs.xml -o merged.xml", "Put together what became of base.xml"},
-    {"git config merge.zupackage.driver 'zupackage merge %O %A %B -o %A --marker-size %L'",
+    {"git config merge.zupackage.driver 'zupackage merge %O %A %B -o %A --marker-size %L --name=%P'",
      "Have git merge the files that have the attribute merge=zupackage so"},
+    {"git config merge.zupackage.recursive binary",
+     "Have git give the driver manifests without marks when there are several bases"},
 };
 
 } // namespace

@@ -104,14 +104,67 @@ TEST_F(MergeCommand, AByteOrderMarkStandsInTheFirstLineOfEachSideSoThatMarksBegi
               "<<<<<<< ours\n" + mark + "<p version='2'/>\n=======\n" + mark + "<p version='3'/>\n>>>>>>> theirs\n");
 }
 
-TEST_F(MergeCommand, WarnsOfTheirTextThatIsNotMerged)
+TEST_F(MergeCommand, WhatTheyChangedBesideThePackageComesAlongByLines)
 {
-    const ProgramResult result = merge(k_base, k_base, replaced(k_base, "kept", "changed"));
+    const std::string web = "  <contents>\r\n    <webContent path=\"site\"/>\r\n  </contents>\r\n</package>";
+    const std::string ours = replaced(k_base, "<name lang=\"en\">A", "<name  lang='en' >B");
+    const std::string theirs =
+        replaced(replaced(k_base, "kept", "changed"), "</package>", "  <!-- pages -->\r\n" + web);
+    const ProgramResult result = merge(k_base, ours, theirs);
     EXPECT_EQ(result.exitCode, 0);
-    EXPECT_EQ(result.output, k_base);
-    EXPECT_EQ(result.errors, "zupackage: warning: " + file("theirs.xml") +
-                                 " has other comments, or other things that are no part of a package; they are not "
-                                 "merged\n");
+    EXPECT_EQ(result.output, replaced(theirs, "<name lang=\"en\">A", "<name  lang='en' >B"));
+    EXPECT_THAT(result.errors, IsEmpty());
+}
+
+TEST_F(MergeCommand, WhatTheyChangedBesideThePackageComesAlongWithConflictsElsewhere)
+{
+    const std::string theirs = replaced(replaced(k_base, "kept", "changed"), ">A<", ">C<");
+    const ProgramResult result = merge(k_base, replaced(k_base, ">A<", ">B<"), theirs);
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.output, replaced(theirs, "    <name lang=\"en\">C</name>\r\n",
+                                      "<<<<<<< ours\r\n    <name lang=\"en\">B</name>\r\n=======\r\n"
+                                      "    <name lang=\"en\">C</name>\r\n>>>>>>> theirs\r\n"));
+    EXPECT_EQ(result.errors, "zupackage: both sides changed names/name[@lang='en']\n");
+}
+
+TEST_F(MergeCommand, WhatTheyChangedBesideThePackageAndCannotComeAlongIsAConflict)
+{
+    const std::string ours = replaced(k_base, "kept", "ours");
+    const ProgramResult result = merge(k_base, ours, replaced(k_base, "kept", "theirs"));
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.output, ours);
+    EXPECT_EQ(result.errors, "zupackage: " + file("theirs.xml") + " adds, and the merge lacks: <!-- theirs -->\n");
+    EXPECT_THAT(
+        merge(k_base, replaced(k_base, "  <!-- kept", "\t<!-- kept"), replaced(k_base, "<!-- kept -->", "")).errors,
+        testing::EndsWith(" removes, and the merge keeps: <!-- kept -->\n"));
+}
+
+TEST_F(MergeCommand, NothingStandsTwiceBecauseLinesAreMerged)
+{
+    const std::string name = "    <name lang=\"fr\">C</name>\r\n";
+    const std::string ours = replaced(k_base, "    <name lang", name + "    <name lang");
+    const std::string theirs = replaced(replaced(k_base, "kept", "changed"), "  </names>", name + "  </names>");
+    const ProgramResult result = merge(k_base, ours, theirs);
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.output, ours);
+}
+
+TEST_F(MergeCommand, MessagesCallTheManifestByTheNameThatIsGiven)
+{
+    EXPECT_EQ(merge("<p/>", "<p/>", "<p>", {"--name=a/manifest.xml"}).errors,
+              "zupackage: cannot read a/manifest.xml (theirs): line 1, column 4: unexpected end of file\n");
+    EXPECT_EQ(merge("<p version='1'/>", "<p version='2'/>", "<p version='3'/>", {"--name=a/manifest.xml"}).errors,
+              "zupackage: a/manifest.xml: both sides changed @version\n");
+}
+
+TEST_F(MergeCommand, LinesAreMergedWhenTheBaseCannotBeRead)
+{
+    const std::string base = "<<<<<<< ours\n<p version='0'>\n=======\n<p version='1'>\n>>>>>>> theirs\n\n</p>\n";
+    const ProgramResult result = merge(base, "<p version='2'>\n\n</p>\n", "<p version='3'>\n\n<!-- a -->\n</p>\n");
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_EQ(result.output, "<<<<<<< ours\n<p version='2'>\n=======\n<p version='3'>\n>>>>>>> theirs\n\n"
+                             "<!-- a -->\n</p>\n");
+    EXPECT_THAT(result.errors, HasSubstr("zupackage: cannot read " + file("base.xml") + ": line 1, column "));
 }
 
 TEST_F(MergeCommand, WhatCannotBeReadLeavesTheOutputAsItIs)

@@ -4,7 +4,7 @@
 #include <zupackage/authoring/manifest_editor.hpp>
 #include <zupackage/authoring/package_merge.hpp>
 
-#include <algorithm>
+#include <map>
 
 namespace zu::authoring {
 
@@ -35,30 +35,42 @@ bool isOutsidePackage(SourceNode node, const zupackage::check::Outline& outline)
     return node.localName() == k_webContent || (!outline.entry(node) && !(parent && parent->countsEveryChild));
 }
 
-/// What stands in a manifest and is no part of its package, sorted.
-std::vector<std::string> textOutsidePackage(const std::string& manifest)
+/// How often each text stands in a manifest that is no part of its package, in alphabetical order.
+std::map<std::string, int> textsOutsidePackage(const std::string& manifest)
 {
     const SourceDocument document = SourceDocument::parse(manifest);
     const zupackage::check::Outline outline(document);
-    std::vector<std::string> texts;
+    std::map<std::string, int> texts;
     for (std::size_t i = 0; i < document.nodeCount(); ++i) {
         const SourceNode node = document.node(i);
         if (isOutsidePackage(node, outline))
-            texts.emplace_back(document.source(node.range()));
+            ++texts[std::string(document.source(node.range()))];
         const ElementEntry* const entry = outline.entry(node);
         for (const SourceAttribute attribute : node.attributes()) {
             if (entry && !entry->attribute(attribute.name()))
-                texts.emplace_back(document.source(attribute.range()));
+                ++texts[std::string(document.source(attribute.range()))];
         }
     }
-    std::sort(texts.begin(), texts.end());
     return texts;
 }
 
-bool leavesTextBehind(const std::string& base, const std::string& ours, const std::string& theirs)
+std::vector<UnmergedText> leftBehind(const std::string& base, const std::string& theirs, const std::string& merged)
 {
-    const std::vector<std::string> outside = textOutsidePackage(theirs);
-    return outside != textOutsidePackage(base) && outside != textOutsidePackage(ours);
+    std::map<std::string, int> inBase = textsOutsidePackage(base);
+    std::map<std::string, int> inTheirs = textsOutsidePackage(theirs);
+    if (inBase == inTheirs)
+        return {};
+    std::map<std::string, int> inMerged = textsOutsidePackage(merged);
+    std::vector<UnmergedText> texts;
+    for (const auto& [text, count] : inBase) {
+        if (inTheirs[text] < count && inMerged[text] > inTheirs[text])
+            texts.push_back({text, true});
+    }
+    for (const auto& [text, count] : inTheirs) {
+        if (inBase[text] < count && inMerged[text] < count)
+            texts.push_back({text, false});
+    }
+    return texts;
 }
 
 } // namespace
@@ -76,10 +88,10 @@ ManifestMerge mergeManifests(const std::string& base, const std::string& ours, c
     const PackageElement ourElement = elementOf(editor.package());
     MergedElement merged = mergeElements(elementIn(base), ourElement, elementIn(theirs));
     ManifestMerge result;
-    result.leavesTextBehind = leavesTextBehind(base, ours, theirs);
     if (merged.ours != ourElement)
         editor.update(packageOf(merged.ours));
     result.ours = editor.document().text();
+    result.leftBehind = leftBehind(base, theirs, result.ours);
     if (!merged.conflicts.empty())
         editor.update(packageOf(merged.theirs));
     result.theirs = editor.document().text();

@@ -41,15 +41,22 @@ struct PackageMerge
 ZUPACKAGE_AUTHORING_EXPORT PackageMerge mergePackages(const PackageInfo& base, const PackageInfo& ours,
                                                       const PackageInfo& theirs);
 
+/// What they added or removed that is no part of a package: a comment, an instruction, an unknown element or attribute,
+/// web content.
+struct UnmergedText
+{
+    std::string text; ///< as it stands in their manifest or, when they removed it, in the base
+    bool isRemoved = false;
+};
+
 /// What two sides made of one manifest, put together.
 struct ManifestMerge
 {
     std::string ours;   ///< the bytes of our manifest with what they changed, and our side of every conflict
     std::string theirs; ///< the same with their side of every conflict; what it has in common with `ours` are its bytes
     std::vector<MergeConflict> conflicts; ///< as PackageMerge has them; without any, `theirs` equals `ours`
-    /// They changed something that is no part of a package (comments, instructions, unknown elements and attributes,
-    /// web content), which is not merged.
-    bool leavesTextBehind = false;
+    /// What they changed that is no part of a package, and that `ours` does not have, or still has.
+    std::vector<UnmergedText> leftBehind;
 };
 
 /// Merges packages as mergePackages() does, in the text of our manifest: every byte of it stays that their changes do
