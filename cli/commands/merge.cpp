@@ -125,8 +125,9 @@ ExitCode mergeLines(const Side& base, const Side& ours, const Side& theirs, cons
                     const ConflictMarks& marks)
 {
     complain("so that lines are merged, not packages");
-    return worse(k_inputFailed, writeSides(mergedLines(base.bytes, ours.bytes, theirs.bytes),
-                                           mergedLines(base.bytes, theirs.bytes, ours.bytes), arguments, marks));
+    return worse(k_inputFailed, writeSides(mergedLines(base.bytes, ours.bytes, theirs.bytes, AddedByBoth::OursStay),
+                                           mergedLines(base.bytes, theirs.bytes, ours.bytes, AddedByBoth::OursStay),
+                                           arguments, marks));
 }
 
 ExitCode merge(const MergeArguments& arguments)

@@ -46,7 +46,13 @@ public:
         m_theirs.append(theirs.addedBefore).append(theirs.stays && !endsHere ? theirs.line : std::string_view());
     }
 
-    std::string merged() const { return m_ours == m_base ? m_theirs : m_ours; }
+    std::string merged(AddedByBoth added) const
+    {
+        if (m_ours == m_base)
+            return m_theirs;
+        const bool allStand = added == AddedByBoth::AllStand && m_base.empty() && m_ours != m_theirs;
+        return allStand ? m_ours + m_theirs : m_ours;
+    }
 
 private:
     std::string m_base;
@@ -56,7 +62,7 @@ private:
 
 } // namespace
 
-std::string mergedLines(std::string_view base, std::string_view ours, std::string_view theirs)
+std::string mergedLines(std::string_view base, std::string_view ours, std::string_view theirs, AddedByBoth added)
 {
     const std::vector<LineFate> ourFates = fatesOfLines(base, ours);
     const std::vector<LineFate> theirFates = fatesOfLines(base, theirs);
@@ -66,7 +72,7 @@ std::string mergedLines(std::string_view base, std::string_view ours, std::strin
         region.add(ourFates[i], theirFates[i]);
         if (!ourFates[i].stays || !theirFates[i].stays)
             continue;
-        result.append(region.merged()).append(ourFates[i].line);
+        result.append(region.merged(added)).append(ourFates[i].line);
         region = {};
     }
     return result;

@@ -40,21 +40,28 @@ bool isBetter(const ManifestMerge& candidate, const ManifestMerge& merged)
            readAlike(candidate.theirs, merged.theirs) && repetitionsIn(candidate.ours) <= repetitionsIn(merged.ours);
 }
 
+/// Takes what lines make of them where that is better.
+void improve(ManifestMerge& merged, const std::string& base, const std::string& lines, const std::string& theirs)
+{
+    try {
+        ManifestMerge candidate = authoring::mergeManifests(base, lines, theirs);
+        if (!isBetter(candidate, merged))
+            return;
+        candidate.conflicts = std::move(merged.conflicts);
+        merged = std::move(candidate);
+    } catch (const authoring::ManifestEditError&) {
+        return; // they make no manifest
+    }
+}
+
 } // namespace
 
 ManifestMerge mergedTexts(const std::string& base, const std::string& ours, const std::string& theirs)
 {
     ManifestMerge merged = authoring::mergeManifests(base, ours, theirs);
-    if (merged.leftBehind.empty())
-        return merged;
-    try {
-        ManifestMerge withLines = authoring::mergeManifests(base, mergedLines(base, ours, theirs), theirs);
-        if (isBetter(withLines, merged)) {
-            withLines.conflicts = std::move(merged.conflicts);
-            return withLines;
-        }
-    } catch (const authoring::ManifestEditError&) {
-        return merged; // what lines make of them is no manifest
+    for (const AddedByBoth added : {AddedByBoth::OursStay, AddedByBoth::AllStand}) {
+        if (!merged.leftBehind.empty())
+            improve(merged, base, mergedLines(base, ours, theirs, added), theirs);
     }
     return merged;
 }

@@ -139,6 +139,16 @@ TEST_F(MergeCommand, WhatTheyChangedBesideThePackageAndCannotComeAlongIsAConflic
         testing::EndsWith(" removes, and the merge keeps: <!-- kept -->\n"));
 }
 
+TEST_F(MergeCommand, CommentsOnWhatBothAddInOnePlaceComeAlong)
+{
+    const std::string french = "    <name lang=\"fr\">C</name>\r\n";
+    const std::string japanese = "    <!-- polite -->\r\n    <name lang=\"ja\">D</name>\r\n";
+    const auto with = [](const std::string& lines) { return replaced(k_base, "  </names>", lines + "  </names>"); };
+    const ProgramResult result = merge(k_base, with(french), with(japanese));
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.output, with(french + japanese));
+}
+
 TEST_F(MergeCommand, NothingStandsTwiceBecauseLinesAreMerged)
 {
     const std::string name = "    <name lang=\"fr\">C</name>\r\n";
