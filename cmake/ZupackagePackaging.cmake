@@ -1,6 +1,8 @@
 # Debian packages of what is installed, a group of components each: ./dev package.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_VENDOR "the maintainers of zupackage")
+# Each package has a summary of its own, which CPack would put below that of the project.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_PACKAGE_CONTACT "the maintainers of zupackage <maintainers@example.org>")
 set(CPACK_PACKAGE_DIRECTORY ${CMAKE_BINARY_DIR}/packages)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
@@ -21,9 +23,13 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/debian_documentation.cmake)
 set(CPACK_POST_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/debian_triggers.cmake)
 
-# The package of that name with those components; DEPENDS: beside what its programs and libraries are linked with.
+# The package of that name with those components; DEPENDS: beside what its programs and libraries are linked with. There
+# is no semicolon in the texts: it would end them.
 macro(zupackage_add_package name)
     cmake_parse_arguments(arg "" "SECTION;SUMMARY;DESCRIPTION;DEPENDS" "COMPONENTS" ${ARGN})
+    if(arg_UNPARSED_ARGUMENTS)
+        message(FATAL_ERROR "${name}: ${arg_UNPARSED_ARGUMENTS}")
+    endif()
     string(TOUPPER ${name} upper)
     set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${name})
     set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION ${arg_SECTION})
@@ -40,8 +46,8 @@ not known when a program is written.")
 zupackage_add_package(libzupackage0 SECTION libs COMPONENTS zupackage_runtime
     DEPENDS "libzu0 (= ${version})"
     SUMMARY "package descriptions of a robot middleware, shared libraries"
-    DESCRIPTION "Reads, edits and writes the manifests of application packages for robots; with\n\
-the library for tools that check and edit manifests.")
+    DESCRIPTION "Reads, edits and writes the manifests of application packages for robots. A\n\
+second library is for tools that check and edit them.")
 zupackage_add_package(libzupackage-dev SECTION libdevel COMPONENTS zu_development zupackage_development
     DEPENDS "libzu0 (= ${version}), libzupackage0 (= ${version}), libboost-dev, qtbase5-dev"
     SUMMARY "package descriptions of a robot middleware, development files"
@@ -51,7 +57,8 @@ zupackage_add_package(zupackage SECTION utils COMPONENTS zupackage_tool zupackag
     DEPENDS "libzu0 (= ${version}), libzupackage0 (= ${version})"
     SUMMARY "shows, checks and edits package descriptions of a robot middleware"
     DESCRIPTION "A command line program for the manifests of application packages, with its\n\
-manual pages, its guide, and completion for bash, zsh and fish.")
+manual pages, its guide, the schemas of manifests, and completion for bash, zsh\n\
+and fish.")
 
 include(CPack)
 foreach(package IN LISTS packages)
