@@ -23,10 +23,10 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/debian_documentation.cmake)
 set(CPACK_POST_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/debian_triggers.cmake)
 
-# The package of that name with those components; DEPENDS: beside what its programs and libraries are linked with. There
-# is no semicolon in the texts: it would end them.
+# The package of that name with those components; DEPENDS: beside what its programs and libraries are linked with;
+# SCRIPTS: what Debian runs when it comes and goes. There is no semicolon in the texts: it would end them.
 macro(zupackage_add_package name)
-    cmake_parse_arguments(arg "" "SECTION;SUMMARY;DESCRIPTION;DEPENDS" "COMPONENTS" ${ARGN})
+    cmake_parse_arguments(arg "" "SECTION;SUMMARY;DESCRIPTION;DEPENDS" "COMPONENTS;SCRIPTS" ${ARGN})
     if(arg_UNPARSED_ARGUMENTS)
         message(FATAL_ERROR "${name}: ${arg_UNPARSED_ARGUMENTS}")
     endif()
@@ -34,11 +34,13 @@ macro(zupackage_add_package name)
     set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${name})
     set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION ${arg_SECTION})
     set(CPACK_DEBIAN_${upper}_PACKAGE_DEPENDS "${arg_DEPENDS}")
+    set(CPACK_DEBIAN_${upper}_PACKAGE_CONTROL_EXTRA "${arg_SCRIPTS}")
     set(CPACK_DEBIAN_${upper}_DESCRIPTION "${arg_SUMMARY}\n${arg_DESCRIPTION}")
     set(${name}_components ${arg_COMPONENTS})
     list(APPEND packages ${name})
 endmacro()
 
+set(scripts ${CMAKE_CURRENT_LIST_DIR}/debian)
 zupackage_add_package(libzu0 SECTION libs COMPONENTS zu_runtime
     SUMMARY "logger and runtime type system, shared library"
     DESCRIPTION "The host framework of libzupackage: a logger, and values whose types are\n\
@@ -54,7 +56,8 @@ zupackage_add_package(libzupackage-dev SECTION libdevel COMPONENTS zu_developmen
     DESCRIPTION "Headers, and what CMake and pkg-config know of libzupackage, its library for\n\
 tools and its host framework libzu.")
 zupackage_add_package(zupackage SECTION utils COMPONENTS zupackage_tool zupackage_documentation
-    DEPENDS "libzu0 (= ${version}), libzupackage0 (= ${version})"
+    DEPENDS "libzu0 (= ${version}), libzupackage0 (= ${version}), xml-core"
+    SCRIPTS ${scripts}/postinst ${scripts}/prerm ${scripts}/postrm
     SUMMARY "shows, checks and edits package descriptions of a robot middleware"
     DESCRIPTION "A command line program for the manifests of application packages, with its\n\
 manual pages, its guide, the schemas of manifests, and completion for bash, zsh\n\
