@@ -1,5 +1,6 @@
-# What Debian wants in every package, put where CPack has laid them out: copyright and changelog, and manual pages
-# compressed.
+# What Debian wants in every package, put where CPack has laid them out: copyright and changelog, manual pages
+# compressed, and completion where its zsh looks.
+cmake_policy(VERSION 3.22)
 
 function(compress file)
     execute_process(COMMAND gzip -9nf ${file} COMMAND_ERROR_IS_FATAL ANY)
@@ -36,6 +37,9 @@ foreach(folder IN LISTS folders)
     if(EXISTS ${documentation}/CHANGELOG.md)
         file(RENAME ${documentation}/CHANGELOG.md ${documentation}/changelog)
         compress(${documentation}/changelog)
+    endif()
+    if(EXISTS ${folder}/usr/share/zsh/site-functions)
+        file(RENAME ${folder}/usr/share/zsh/site-functions ${folder}/usr/share/zsh/vendor-completions)
     endif()
     file(GLOB pages ${folder}/usr/share/man/*/*)
     foreach(file IN LISTS pages ITEMS ${documentation}/changelog.Debian)

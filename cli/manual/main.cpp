@@ -44,7 +44,7 @@ int main(int argc, char** argv)
         write("man/man1/zupackage-" + command.name + ".1", commandPage(program, command));
     write("man/man5/zupackage-manifest.5", manifestPage(program.version));
     write("bash-completion/completions/zupackage", bashCompletion(program));
-    write("zsh/vendor-completions/_zupackage", zshCompletion(program));
+    write("zsh/site-functions/_zupackage", zshCompletion(program));
     write("fish/vendor_completions.d/zupackage.fish", fishCompletion(program));
     const fs::path schemas = "zupackage/schemas";
     write(schemas / k_schemaFile, zu::authoring::xmlSchema());

@@ -41,17 +41,20 @@ std::string argumentOf(const OptionDefinition& option, const std::string& indent
         return indent + "'" + kind + valueOf(option) + "'";
     }
     std::string lines;
-    for (const std::string& name : option.names)
+    for (const std::string& name : option.names) {
+        // "--name=" takes its value as the next word or behind the sign.
+        const bool takesSign = !option.value.empty() && name.compare(0, 2, "--") == 0;
         lines.append(lines.empty() ? "" : " \\\n")
             .append(indent)
             .append("'")
             .append(option.isRepeated ? "*" : "")
             .append(name)
-            .append("[")
+            .append(takesSign ? "=[" : "[")
             .append(escapedPart(option.help))
             .append("]")
             .append(valueOf(option))
             .append("'");
+    }
     return lines;
 }
 

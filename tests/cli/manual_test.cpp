@@ -13,6 +13,7 @@ namespace zu {
 namespace fs = std::filesystem;
 using testing::Contains;
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
@@ -68,7 +69,7 @@ struct Shell
 const Shell k_shells[] = {
     {"/bin/bash", {"--norc"}, "offers.bash", "bash-completion/completions/zupackage"},
     {"/usr/bin/fish", {"--no-config"}, "offers.fish", "fish/vendor_completions.d/zupackage.fish"},
-    {"/usr/bin/zsh", {"-f"}, "offers.zsh", "zsh/vendor-completions/_zupackage"},
+    {"/usr/bin/zsh", {"-f"}, "offers.zsh", "zsh/site-functions/_zupackage"},
 };
 
 class Completion : public testing::TestWithParam<Shell>
@@ -156,6 +157,12 @@ TEST_P(Completion, OffersTheOptionsOfTheCommand)
 TEST_P(Completion, OffersTheValuesOfAnOption)
 {
     EXPECT_THAT(offers({"check", "--format", "j"}), ElementsAre("json", "junit"));
+}
+
+// fish offers the whole word, the others what follows the sign.
+TEST_P(Completion, OffersTheValuesOfAnOptionBehindAnEqualsSign)
+{
+    EXPECT_THAT(offers({"check", "--format=j"}), ElementsAre(EndsWith("json"), EndsWith("junit")));
 }
 
 TEST_P(Completion, OffersTheCommandsThatHelpExplains) { EXPECT_THAT(offers({"help", "sh"}), ElementsAre("show")); }

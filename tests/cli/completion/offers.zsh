@@ -6,8 +6,9 @@ script=$1
 shift
 zpty shell zsh -f -i
 zpty -w shell "fpath=(${(q)script:h} \$fpath); autoload -Uz compinit; compinit -u -D"
-# What is offered is printed on its way.
-zpty -w shell 'compadd() { local -a f; builtin compadd -O f "$@"; print -rl -- "<$^f>"; builtin compadd "$@" }'
+# What is offered is printed on its way; calls with -A, -D or -O only ask what would be.
+zpty -w shell 'compadd() { local -a f; (( ${@[(I)-[ADO]]} )) || builtin compadd -O f "$@"; print -rl -- "<$^f>"
+    builtin compadd "$@" }'
 zpty -w shell 'bindkey "^I" complete-word; bindkey "^U" kill-whole-line; PS1=REA"DY> "'
 # Before the line editor is there, which shows the prompt, the terminal itself would take the keys.
 zpty -r shell line '*READY> *'
