@@ -25,7 +25,9 @@ std::string joined(const std::vector<std::string>& texts, const std::string& sep
 
 std::string optionEntry(const OptionDefinition& option)
 {
-    const std::string value = option.choices.empty() ? italic(option.value) : joined(option.choices, "|", bold);
+    // Of an argument the name is shown, not the long list of commands that one may be.
+    const bool isNamed = option.isArgument() || option.choices.empty();
+    const std::string value = isNamed ? italic(option.value) : joined(option.choices, "|", bold);
     std::string head = joined(option.names, ", ", bold);
     if (!option.value.empty())
         head += (head.empty() ? "" : " ") + value;

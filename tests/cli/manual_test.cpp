@@ -136,6 +136,12 @@ TEST(Manual, PagesAreCleanForTheirFormatter)
     }
 }
 
+TEST(Manual, PagesCallAnArgumentByItsName)
+{
+    EXPECT_THAT(test::readFile(k_manual / "man/man1/zupackage-help.1"),
+                HasSubstr(".SH ARGUMENTS\n.TP\n\\fICOMMAND\\fR\n"));
+}
+
 // With ZU_UPDATE_GOLDEN in the environment the page is written anew.
 TEST(Manual, ReferenceOfManifestsIsThatOfTheVocabulary)
 {
