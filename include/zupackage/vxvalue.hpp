@@ -76,14 +76,14 @@ public:
     /// The kind of a value. The numbers are part of the interface.
     enum class Type : std::uint32_t
     {
-        Invalid = 0,
-        Array = 1,
-        Bool = 2,
-        Int = 3,
-        Float = 4,
-        String = 5,
-        Object = 6, ///< bytes; nothing in this library makes one
-        Binary = 7
+        Invalid = 0, ///< no value
+        Array = 1,   ///< values of any kind
+        Bool = 2,    ///< a flag
+        Int = 3,     ///< a signed 32-bit integer
+        Float = 4,   ///< a single-precision number
+        String = 5,  ///< a TVXValueString
+        Object = 6,  ///< bytes; nothing in this library makes one
+        Binary = 7   ///< bytes
     };
 
     /// Invalid.

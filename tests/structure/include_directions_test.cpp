@@ -71,6 +71,7 @@ const std::vector<Rule> k_rules = {
     {"tests/consumer/", {k_authoring, k_package, k_framework, "std/"}},
     {"tests/hostile/", {"tests/", k_authoring, k_package, k_framework, "gmock/", "gtest/", "sys/", "std/"}},
     {"tests/loading/", {"tests/", k_package, k_framework, "gmock/", "gtest/", "std/"}},
+    {"tests/structure/version_test.cpp", {"tests/", k_authoring, k_package, k_framework, "gtest/", "std/"}},
     {"tests/site/", {"tests/", "cli/site/", "gmock/", "gtest/", "std/"}},
     {"tests/cli/", {"tests/", "QtCore/", "gmock/", "gtest/", "sys/", "std/"}},
     {"tests/",

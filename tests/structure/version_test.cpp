@@ -1,5 +1,6 @@
 #include "support/files.hpp"
 
+#include <zupackage/authoring/version.hpp>
 #include <zupackage/version.hpp>
 
 #include <zu/version.hpp>
@@ -11,6 +12,7 @@ namespace zu {
 TEST(Structure, LibrariesAndChangelogAreOfOneVersion)
 {
     EXPECT_STREQ(ZU_VERSION_STRING, ZUPACKAGE_VERSION_STRING);
+    EXPECT_STREQ(ZUPACKAGE_AUTHORING_VERSION_STRING, ZUPACKAGE_VERSION_STRING);
     const std::string numbers = std::to_string(ZUPACKAGE_VERSION_MAJOR) + "." +
                                 std::to_string(ZUPACKAGE_VERSION_MINOR) + "." + std::to_string(ZUPACKAGE_VERSION_PATCH);
     EXPECT_EQ(numbers, ZUPACKAGE_VERSION_STRING);

@@ -19,13 +19,13 @@ namespace zu::log {
 /// Severity of a record; the smaller the number, the graver. The numbers are part of the interface.
 enum class Level : int
 {
-    Silent = 0, ///< as a threshold: lets nothing through; a record of this level is never written
-    Fatal = 1,
-    Error = 2,
-    Warning = 3,
-    Info = 4,
-    Verbose = 5,
-    Debug = 6
+    Silent = 0,  ///< as a threshold: lets nothing through; a record of this level is never written
+    Fatal = 1,   ///< the program cannot go on
+    Error = 2,   ///< what was asked for was not done
+    Warning = 3, ///< it was done, and something about it is wrong
+    Info = 4,    ///< what happens, for everyone; the threshold that categories begin with
+    Verbose = 5, ///< what happens, in detail
+    Debug = 6    ///< for those who change the program
 };
 
 /// The lower-case name of a level ("error"); empty for a number that is no level.

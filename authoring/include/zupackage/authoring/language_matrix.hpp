@@ -16,12 +16,12 @@ namespace zu::authoring {
 /// What a package says in several languages.
 enum class TextKind
 {
-    Names,
-    Descriptions,
-    Tags,
-    TriggerSentences,
-    LoadingResponses,
-    Topics ///< the topic files of a dialog
+    Names,            ///< of the package or a behavior
+    Descriptions,     ///< of the package or a behavior
+    Tags,             ///< that a behavior is found by
+    TriggerSentences, ///< that a behavior starts at
+    LoadingResponses, ///< that are said while a behavior starts
+    Topics            ///< the topic files of a dialog
 };
 
 /// How far the texts of a package go in one language.

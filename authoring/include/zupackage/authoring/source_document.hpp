@@ -33,9 +33,9 @@ struct SyntaxError
 /// The characters that end a line.
 enum class LineEnd : std::uint8_t
 {
-    LineFeed,
-    CarriageReturn,
-    CarriageReturnLineFeed,
+    LineFeed,               ///< U+000A
+    CarriageReturn,         ///< U+000D
+    CarriageReturnLineFeed, ///< U+000D and U+000A
 };
 
 /// The characters themselves, one or two.

@@ -7,8 +7,8 @@ namespace zu {
 /// Whether a pointer shares the ownership of what it points to.
 enum class PointerKind : int
 {
-    Raw,
-    Shared
+    Raw,   ///< a T*
+    Shared ///< a std::shared_ptr or boost::shared_ptr
 };
 
 /// Raw and shared pointers.

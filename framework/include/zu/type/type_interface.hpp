@@ -12,24 +12,24 @@ namespace zu {
 /// What can be done with a value, whatever its C++ type. The numbers are part of the interface.
 enum class TypeKind : int
 {
-    Unknown = 0,  ///< can be copied and destroyed, nothing else
-    Void = 1,     ///< no value at all
-    Int = 2,      ///< IntTypeInterface: whole numbers, bool, enumerations
-    Float = 3,    ///< FloatTypeInterface
-    String = 4,   ///< StringTypeInterface
-    List = 5,     ///< ListTypeInterface
-    Map = 6,      ///< MapTypeInterface
-    Object = 7,   ///< ObjectTypeInterface
-    Pointer = 8,  ///< PointerTypeInterface
-    Tuple = 9,    ///< StructTypeInterface: structs, pairs, tuples
-    Dynamic = 10, ///< DynamicTypeInterface: holds a value of some other type
-    Raw = 11,     ///< RawTypeInterface: bytes; the number 12 is not used
-    Iterator = 13,
-    Function = 14,
-    Signal = 15,
-    Property = 16,
-    VarArgs = 17, ///< VarArgsTypeInterface: read like a list
-    Optional = 18
+    Unknown = 0,   ///< can be copied and destroyed, nothing else
+    Void = 1,      ///< no value at all
+    Int = 2,       ///< IntTypeInterface: whole numbers, bool, enumerations
+    Float = 3,     ///< FloatTypeInterface
+    String = 4,    ///< StringTypeInterface
+    List = 5,      ///< ListTypeInterface
+    Map = 6,       ///< MapTypeInterface
+    Object = 7,    ///< ObjectTypeInterface
+    Pointer = 8,   ///< PointerTypeInterface
+    Tuple = 9,     ///< StructTypeInterface: structs, pairs, tuples
+    Dynamic = 10,  ///< DynamicTypeInterface: holds a value of some other type
+    Raw = 11,      ///< RawTypeInterface: bytes; the number 12 is not used
+    Iterator = 13, ///< IteratorTypeInterface
+    Function = 14, ///< FunctionTypeInterface
+    Signal = 15,   ///< SignalTypeInterface
+    Property = 16, ///< PropertyTypeInterface
+    VarArgs = 17,  ///< VarArgsTypeInterface: read like a list
+    Optional = 18  ///< OptionalTypeInterface: a value or none
 };
 
 /// The name of a kind ("Int"); empty for a number that is no kind.
