@@ -1,0 +1,73 @@
+// What the guide shows of the program: it quotes these golden texts.
+#include "cli/wave_manifest.hpp"
+#include "support/files.hpp"
+#include "support/program.hpp"
+
+#include <gtest/gtest.h>
+
+namespace zu {
+
+using test::k_waveManifest;
+using test::replaced;
+
+namespace {
+
+/// Runs the program in a folder, so that the paths in what it prints are short.
+test::ProgramResult zupackageIn(const std::filesystem::path& folder, const std::vector<std::string>& arguments,
+                                const test::ProgramSetting& setting = {})
+{
+    std::vector<std::string> command = {"-c", "cd \"$1\" && shift && exec \"$@\"", "sh", folder.string(),
+                                        ZUPACKAGE_PROGRAM};
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    return test::runProgram("/bin/sh", command, setting);
+}
+
+} // namespace
+
+TEST(Guide, ShowsTheLanguagesOfAnExample)
+{
+    const auto examples = test::sourcePath("examples/packages");
+    test::expectGolden(zupackageIn(examples / "story-teller", {"languages"}).output, "guide/languages.txt");
+}
+
+TEST(Guide, ShowsFindings)
+{
+    const test::TemporaryFolder folder;
+    zupackageIn(folder.path(), {"new", "wave-hello", "--kind", "behavior", "--language", "en", "--language", "fr"});
+    const std::string skeleton = test::readFile(folder.path() / "wave-hello/manifest.xml");
+    folder.file("wave-hello/manifest.xml",
+                replaced(skeleton, " <supportedLanguages>",
+                         " <descriptions>\n  <!-- French: ask Odile -->\n"
+                         "  <description lang=\"en\">Waves when somebody says hello.</description>\n"
+                         " </descriptions>\n <supportedLanguages>"));
+    const test::ProgramResult check = zupackageIn(folder.path(), {"check", "wave-hello"});
+    test::expectGolden(check.output + check.errors, "guide/findings.txt");
+}
+
+TEST(Guide, ShowsHowJsonIsRefused)
+{
+    const test::TemporaryFolder folder;
+    const auto refused =
+        zupackageIn(folder.path(), {"convert", "--to", "xml", "-"}, {R"({"format_version": 1, "name": {}})", {}, {}});
+    test::expectGolden(refused.errors, "guide/refused_json.txt");
+}
+
+TEST(Guide, ShowsAConflict)
+{
+    const test::TemporaryFolder folder;
+    folder.file("base.xml", k_waveManifest);
+    folder.file("ours.xml", replaced(k_waveManifest, "Wave", "Wave hello"));
+    folder.file("theirs.xml", replaced(k_waveManifest, "Wave", "Hi"));
+    const auto merge = zupackageIn(folder.path(), {"merge", "base.xml", "ours.xml", "theirs.xml"});
+    test::expectGolden(merge.output, "guide/conflict.xml");
+}
+
+TEST(Guide, ShowsHowANewManifestNamesItsSchema)
+{
+    const test::TemporaryFolder folder;
+    EXPECT_EQ(zupackageIn(folder.path(), {"new", "--schema", "hello"}).exitCode, 0);
+    const std::string manifest = test::readFile(folder.path() / "hello/manifest.xml");
+    test::expectGolden(manifest.substr(0, manifest.find("<package")), "guide/schema.xml");
+}
+
+} // namespace zu
