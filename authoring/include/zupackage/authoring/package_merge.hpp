@@ -45,8 +45,8 @@ ZUPACKAGE_AUTHORING_EXPORT PackageMerge mergePackages(const PackageInfo& base, c
 /// web content.
 struct UnmergedText
 {
-    std::string text; ///< as it stands in their manifest or, when they removed it, in the base
-    bool isRemoved = false;
+    std::string text;       ///< as it stands in their manifest or, when they removed it, in the base
+    bool isRemoved = false; ///< whether they removed it; else they added it
 };
 
 /// What two sides made of one manifest, put together.
