@@ -11,18 +11,6 @@ using zu::authoring::SourceNode;
 using zu::authoring::SourceTree;
 using zu::authoring::SourceTreeAccess;
 
-std::string withLineEnds(std::string_view text, std::string_view lineEnd)
-{
-    std::string result;
-    for (const char c : text) {
-        if (c == '\n')
-            result += lineEnd;
-        else
-            result += c;
-    }
-    return result;
-}
-
 std::optional<std::string> indentationOf(const SourceDocument& document, SourceNode node)
 {
     const SourceTree& tree = SourceTreeAccess::tree(document);

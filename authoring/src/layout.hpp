@@ -9,9 +9,6 @@
 /// How a document is laid out.
 namespace zupackage::authoring {
 
-/// The text with these line ends in the place of line feeds.
-std::string withLineEnds(std::string_view text, std::string_view lineEnd);
-
 /// The blanks that stand before a node in its line; nothing when anything else does.
 std::optional<std::string> indentationOf(const zu::authoring::SourceDocument& document, zu::authoring::SourceNode node);
 

@@ -114,16 +114,17 @@ SourceAttribute attributeOf(SourceNode node, std::string_view name)
     return {};
 }
 
-std::string readAttribute(SourceNode node, std::string_view name)
+std::string readValue(SourceAttribute attribute)
 {
-    const SourceAttribute attribute = attributeOf(node, name);
     if (!attribute)
         return {};
-    const std::string_view source = sourceOf(node, attribute.valueRange());
+    const std::string_view source = sourceOf(attribute.owner(), attribute.valueRange());
     if (source.find_first_of("\t\r\n") == std::string_view::npos)
         return std::string(attribute.value());
     return tokensOf(source, References::Resolved).value;
 }
+
+std::string readAttribute(SourceNode node, std::string_view name) { return readValue(attributeOf(node, name)); }
 
 Keeping keepingOf(const ElementEntry& entry)
 {

@@ -32,7 +32,10 @@ using TextOf = std::string (*)(SourceNode);
 /// The attribute of that name without a prefix; null when there is none.
 SourceAttribute attributeOf(SourceNode node, std::string_view name);
 
-/// What that says; empty when there is none.
+/// What an attribute says; empty for a null one.
+std::string readValue(SourceAttribute attribute);
+
+/// What the attribute of that name without a prefix says; empty when there is none.
 std::string readAttribute(SourceNode node, std::string_view name);
 
 /// What the reader makes of the elements of an entry that stand in one place.

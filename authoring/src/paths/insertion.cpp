@@ -235,7 +235,7 @@ std::vector<TextEdit> textReplacement(const SourceDocument& document, SourceNode
                                       bool dropsElements)
 {
     const ElementLayout layout = layoutAt(document, element);
-    const std::string plain = withLineEnds(escapedText(text), layout.lineEnd);
+    const std::string plain = textSource(text, false, layout);
     const SourceNode principal = principalText(document, element);
     if (!principal) {
         const std::size_t end = element.contentRange().end;
@@ -245,8 +245,7 @@ std::vector<TextEdit> textReplacement(const SourceDocument& document, SourceNode
     std::vector<TextEdit> edits;
     for (const SourceNode child : element.children()) {
         if (child == principal) {
-            const std::string section = child.kind() == NodeKind::CData ? cdataSection(text, layout) : std::string();
-            edits.push_back({child.range(), section.empty() ? plain : section});
+            edits.push_back({child.range(), textSource(text, child.kind() == NodeKind::CData, layout)});
         } else if (isTextual(child) || (child.isElement() && dropsElements)) {
             edits.push_back({child.range(), {}});
         }

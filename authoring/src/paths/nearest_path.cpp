@@ -1,4 +1,5 @@
 #include "check/wording.hpp"
+#include "edit/reading.hpp"
 #include "paths/path_selection.hpp"
 #include "paths/vocabulary_of_nodes.hpp"
 
@@ -24,9 +25,10 @@ std::string identityOf(SourceNode element)
     if (!entry || entry->identity.empty())
         return {};
     if (entry->identity == ".")
-        return predicateOn(".", element.textContent());
+        return predicateOn(".", zupackage::edit::readText(element));
     const SourceAttribute attribute = zupackage::authoring::attributeNamed(element, entry->identity);
-    return attribute ? predicateOn("@" + std::string(entry->identity), attribute.value()) : std::string();
+    return attribute ? predicateOn("@" + std::string(entry->identity), zupackage::edit::readValue(attribute))
+                     : std::string();
 }
 
 /// A step to each of the elements in `parent`.

@@ -1,9 +1,9 @@
 #include "paths/new_element.hpp"
 
+#include "check/wording.hpp"
+#include "edit/reading.hpp"
 #include "edits.hpp"
-#include "layout.hpp"
-
-#include <zupackage/authoring/path_edit.hpp>
+#include "paths/path_rules.hpp"
 
 #include <algorithm>
 
@@ -11,7 +11,7 @@ namespace zupackage::authoring {
 
 using zu::authoring::ElementEntry;
 using zu::authoring::ManifestPath;
-using zu::authoring::PathEditError;
+using zu::authoring::Occurrence;
 using zu::authoring::PathPredicate;
 using zu::authoring::PathStep;
 using zu::authoring::ValueKind;
@@ -45,10 +45,10 @@ bool meets(const NewElement& element, const PathStep& step)
 
 NewElement& childFor(const PathStep& step, NewElement& parent)
 {
-    const auto found = std::find_if(parent.children.begin(), parent.children.end(),
-                                    [&](const NewElement& child) { return meets(child, step); });
-    if (found != parent.children.end())
-        return *found;
+    const auto last = std::find_if(parent.children.rbegin(), parent.children.rend(),
+                                   [&](const NewElement& child) { return meets(child, step); });
+    if (last != parent.children.rend())
+        return *last;
     parent.children.push_back(elementFor(step));
     return parent.children.back();
 }
@@ -77,14 +77,6 @@ NewElement ordered(NewElement element, const ElementEntry& entry)
         element.children.begin(), element.children.end(),
         [&](const NewElement& left, const NewElement& right) { return childRank(left) < childRank(right); });
     return element;
-}
-
-std::string writtenText(const std::string& text, const ElementEntry* entry, const ElementLayout& layout)
-{
-    // As the package library's writer does it.
-    const std::string section =
-        entry && entry->text == ValueKind::Condition ? cdataSection(text, layout) : std::string();
-    return section.empty() ? withLineEnds(escapedText(text), layout.lineEnd) : section;
 }
 
 bool isAscii(std::string_view text)
@@ -117,39 +109,65 @@ void NewElement::setAttribute(const std::string& attributeName, const std::strin
 NewElement elementFor(const PathStep& step)
 {
     NewElement element{step.name, {}, {}, {}};
-    const auto refuse = [&step] {
-        throw PathEditError(PathEditError::Reason::Refused, "\"" + step.text + "\" does not say what to make");
+    const auto require = [&step](bool isClear) {
+        if (!isClear)
+            refuse("\"" + step.text + "\" does not say what to make");
     };
-    if (step.name == "*")
-        refuse();
+    require(step.name != "*");
     for (const PathPredicate& predicate : step.predicates) {
         switch (predicate.kind) {
         case PathPredicate::Kind::Position:
-            refuse();
+            require(false);
             break;
         case PathPredicate::Kind::Attribute:
-            element.setAttribute(predicate.name, predicate.value);
+            require(canSay(element, predicate.name, predicate.value));
+            say(element, predicate.name, predicate.value);
             break;
         case PathPredicate::Kind::Child:
             element.children.push_back({predicate.name, {}, predicate.value, {}});
             break;
         case PathPredicate::Kind::OwnText:
-            element.text = predicate.value;
+            require(canSay(element, {}, predicate.value));
+            say(element, {}, predicate.value);
             break;
         }
     }
     return element;
 }
 
-void setWithin(NewElement& element, const ManifestPath& path, std::string_view text)
+bool canSay(const NewElement& element, const std::string& attribute, std::string_view text)
 {
-    NewElement* target = &element;
-    for (const PathStep& step : path.steps())
-        target = &childFor(step, *target);
-    if (path.attribute().empty())
-        target->text = text;
+    if (attribute.empty())
+        return element.text.empty() || element.text == text;
+    const std::string* const present = element.attribute(attribute);
+    return !present || *present == text;
+}
+
+void say(NewElement& element, const std::string& attribute, std::string_view text)
+{
+    if (attribute.empty())
+        element.text = text;
     else
-        target->setAttribute(path.attribute(), std::string(text));
+        element.setAttribute(attribute, std::string(text));
+}
+
+void setWithin(NewElement& element, const ElementEntry* entry, const ManifestPath& path, std::string_view text)
+{
+    NewElement* parent = nullptr;
+    NewElement* target = &element;
+    for (const PathStep& step : path.steps()) {
+        entry = entry ? entry->child(step.name) : nullptr;
+        parent = target;
+        target = &childFor(step, *parent);
+    }
+    const bool canRepeat = parent && (!entry || entry->occurrence == Occurrence::Repeated);
+    if (!canSay(*target, path.attribute(), text) && canRepeat) {
+        parent->children.push_back(elementFor(path.steps().back()));
+        target = &parent->children.back();
+    }
+    if (!canSay(*target, path.attribute(), text))
+        refuse("\"" + path.text() + "\" cannot become " + check::inQuotes(text) + " and something else, too");
+    say(*target, path.attribute(), text);
 }
 
 NewElement& makeChain(const std::vector<PathStep>& steps, NewElement& outermost)
@@ -169,7 +187,9 @@ std::string written(const NewElement& element, const ElementEntry* entry, const 
         xml += " " + name + "=" + layout.quote + escapedValue(value, layout.quote) + layout.quote;
     if (parts.text.empty() && parts.children.empty())
         return xml + "/>";
-    xml += ">" + writtenText(parts.text, entry, layout);
+    // As the package library's writer does it.
+    const bool isCondition = entry && entry->text == ValueKind::Condition;
+    xml += ">" + textSource(parts.text, isCondition, layout);
     ElementLayout inner = layout;
     inner.indentation += layout.step;
     // A text and elements are no form that manifests have: white space would become part of the text.
@@ -184,13 +204,13 @@ std::string written(const NewElement& element, const ElementEntry* entry, const 
     return xml + "</" + parts.name + ">";
 }
 
-std::string cdataSection(std::string_view text, const ElementLayout& layout)
+std::string textSource(std::string_view text, bool asSection, const ElementLayout& layout)
 {
-    // A carriage return would be read as a line feed, and so needs a reference.
-    if (text.find("]]>") != std::string_view::npos || text.find('\r') != std::string_view::npos ||
-        (!layout.isUnicode && !isAscii(text)))
-        return {};
-    return "<![CDATA[" + withLineEnds(text, layout.lineEnd) + "]]>";
+    const bool isBlank = !text.empty() && edit::isBlank(text);
+    // Strict parsers read a carriage return as a line feed unless a reference says it, which none does in a section.
+    const bool fits = text.find("]]>") == std::string_view::npos &&
+                      (isBlank || text.find('\r') == std::string_view::npos) && (layout.isUnicode || isAscii(text));
+    return fits && (isBlank || asSection) ? "<![CDATA[" + std::string(text) + "]]>" : escapedText(text);
 }
 
 } // namespace zupackage::authoring

@@ -23,12 +23,21 @@ struct NewElement
 };
 
 /// The element that a step asks for.
-/// @throws PathEditError when the step does not say what to make: a position and "*" do not.
+/// @throws PathEditError when the step does not say what to make: a position, "*" and contradictions do not.
 NewElement elementFor(const zu::authoring::PathStep& step);
 
-/// Sets a text within the element, and makes what the path to it lacks.
-/// @throws PathEditError as elementFor().
-void setWithin(NewElement& element, const zu::authoring::ManifestPath& path, std::string_view text);
+/// Whether the element has no such text, or no such attribute, or the same one.
+bool canSay(const NewElement& element, const std::string& attribute, std::string_view text);
+
+/// @param attribute empty for the element's text.
+void say(NewElement& element, const std::string& attribute, std::string_view text);
+
+/// Sets a text within the element, and makes what the path to it lacks: another entry, too, where there can be several
+/// and the last one says something else.
+/// @param entry what the vocabulary says about the element; null when it says nothing.
+/// @throws PathEditError as elementFor(), and when something else is to stand there already.
+void setWithin(NewElement& element, const zu::authoring::ElementEntry* entry, const zu::authoring::ManifestPath& path,
+               std::string_view text);
 
 /// Makes a chain of elements, each in the one before, that the steps ask for; there must be one at least.
 /// @return the innermost.
@@ -49,8 +58,10 @@ struct ElementLayout
 /// @param entry what the vocabulary says about it; null when it says nothing.
 std::string written(const NewElement& element, const zu::authoring::ElementEntry* entry, const ElementLayout& layout);
 
-/// A CDATA section that holds the text; empty when none can: when it would end in the text's midst, or the document's
-/// encoding may lack a character of it.
-std::string cdataSection(std::string_view text, const ElementLayout& layout);
+/// A text as it is to stand in an element, such that readers take it as it is given: they keep line ends, and drop
+/// white space that stands alone outside of a CDATA section. A section cannot have what would end it, nor characters
+/// that the document's encoding may lack.
+/// @param asSection whether to make it a section wherever that can be.
+std::string textSource(std::string_view text, bool asSection, const ElementLayout& layout);
 
 } // namespace zupackage::authoring

@@ -1,13 +1,18 @@
+#include "check/wording.hpp"
+#include "edit/reading.hpp"
 #include "edits.hpp"
+#include "package/package_element.hpp"
 #include "paths/insertion.hpp"
 #include "paths/path_rules.hpp"
 #include "paths/path_selection.hpp"
+#include "paths/read_back.hpp"
 #include "paths/vocabulary_of_nodes.hpp"
 
 #include <zupackage/authoring/path_edit.hpp>
 #include <zupackage/authoring/text_edit.hpp>
 
 #include <algorithm>
+#include <iterator>
 
 namespace zu::authoring {
 
@@ -22,6 +27,18 @@ namespace {
                         "there is no " + path.text() + (nearest.empty() ? "" : "; the nearest is " + nearest));
 }
 
+/// What the vocabulary says about the elements that a path leads to; null when it says nothing.
+const ElementEntry* entryAt(const ManifestPath& path)
+{
+    const ElementEntry* entry = &Vocabulary::manifest().root();
+    for (const PathStep& step : path.steps()) {
+        const bool isRoot = path.isAbsolute() && &step == &path.steps().front();
+        if (entry && !isRoot)
+            entry = entry->child(step.name);
+    }
+    return entry;
+}
+
 bool saysWhatToMake(const PathStep& step)
 {
     return step.name != "*" && std::none_of(step.predicates.begin(), step.predicates.end(), [](const PathPredicate& p) {
@@ -29,7 +46,14 @@ bool saysWhatToMake(const PathStep& step)
            });
 }
 
-/// The text edits that make one edit by a path.
+/// What one edit by a path does to the text, and what the package is to say for it.
+struct Change
+{
+    std::vector<TextEdit> edits;
+    std::vector<Statement> statements;
+};
+
+/// Makes one edit by a path.
 class PathEditor
 {
 public:
@@ -38,22 +62,26 @@ public:
     {
     }
 
-    std::vector<TextEdit> set(const std::string& text)
+    Change set(const std::string& text)
     {
         requireXmlText(text);
         reach(
-            m_path.steps().size(), [&](SourceNode element) { setText(element, text); },
+            m_path.steps().size(),
+            [&](const std::vector<SourceNode>& section) {
+                for (const SourceNode element : section)
+                    setText(element, text);
+            },
             [&](SourceNode parent, NewElement& outermost, NewElement& innermost) {
-                if (m_path.attribute().empty())
-                    innermost.text = text;
-                else
-                    innermost.setAttribute(m_path.attribute(), text);
+                // What is asked for by another text is not there, rather than to be made with this one.
+                if (!canSay(innermost, m_path.attribute(), text))
+                    return;
+                say(innermost, m_path.attribute(), text);
                 make(parent, outermost);
             });
-        return takeEdits();
+        return take();
     }
 
-    std::vector<TextEdit> add(const std::vector<SetText>& parts)
+    Change add(const std::vector<SetText>& parts)
     {
         const std::size_t shortest = m_path.isAbsolute() ? 2 : 1;
         if (!m_path.attribute().empty() || m_path.steps().size() < shortest)
@@ -62,18 +90,18 @@ public:
         for (const SetText& part : parts) {
             if (part.path.isAbsolute())
                 refuse("\"" + part.path.text() + "\" is not relative to the new entry");
-            setWithin(entry, part.path, part.text);
+            setWithin(entry, entryAt(m_path), part.path, part.text);
         }
         reach(
-            m_path.steps().size() - 1, [&](SourceNode parent) { make(parent, entry); },
+            m_path.steps().size() - 1, [&](const std::vector<SourceNode>& section) { make(section.back(), entry); },
             [&](SourceNode parent, NewElement& outermost, NewElement& innermost) {
                 innermost.children.push_back(entry);
                 make(parent, outermost);
             });
-        return takeEdits();
+        return take();
     }
 
-    std::vector<TextEdit> remove()
+    Change remove()
     {
         for (const PathTarget& target : select(m_document, m_path)) {
             m_leadsSomewhere = true;
@@ -84,31 +112,33 @@ public:
             m_edits.push_back(target.attribute ? removal(m_document, target.attribute)
                                                : removal(m_document, target.element));
         }
-        return takeEdits();
+        return take();
     }
 
 private:
     /// Goes the first `count` steps.
-    /// @param visit called with each element that they lead to.
+    /// @param visit called with what they lead to: each element, but those that readers take for one together.
     /// @param complete called where they lead no further, with the element there, and the outermost and the innermost
     /// of the elements that the other steps ask for.
     template <typename Visit, typename Complete>
     void reach(std::size_t count, Visit visit, Complete complete)
     {
-        for (const SourceNode element : beginning(m_document, m_path))
-            reachFrom(element, 0, count, visit, complete);
+        if (const std::vector<SourceNode> first = beginning(m_document, m_path); !first.empty())
+            reachFrom(first, 0, count, visit, complete);
     }
 
     template <typename Visit, typename Complete>
-    void reachFrom(SourceNode parent, std::size_t step, std::size_t count, Visit& visit, Complete& complete)
+    void reachFrom(const std::vector<SourceNode>& section, std::size_t step, std::size_t count, Visit& visit,
+                   Complete& complete)
     {
         if (step == count) {
-            visit(parent);
+            visit(section);
             return;
         }
-        const std::vector<SourceNode> next = stepFrom({parent}, m_path.steps()[step]);
-        for (const SourceNode element : next)
-            reachFrom(element, step + 1, count, visit, complete);
+        const std::vector<SourceNode> next = stepFrom(section, m_path.steps()[step]);
+        for (const std::vector<SourceNode>& inner : sectionsOf(next))
+            reachFrom(inner, step + 1, count, visit, complete);
+        const SourceNode parent = section.back();
         const auto first = m_path.steps().begin() + static_cast<std::ptrdiff_t>(step);
         const std::vector<PathStep> missing(first, m_path.steps().begin() + static_cast<std::ptrdiff_t>(count));
         if (!next.empty() || !parent.isElement() || !std::all_of(missing.begin(), missing.end(), saysWhatToMake))
@@ -124,6 +154,8 @@ private:
         requireXmlTexts(element);
         if (m_isGuarded)
             requireElement(parent, entryOf(parent), element);
+        if (m_isGuarded)
+            append(statementsOf(parent, element));
         m_edits.push_back(insertion(m_document, parent, element));
     }
 
@@ -136,8 +168,11 @@ private:
         }
         if (m_isGuarded)
             requireText(element, entryOf(element), text);
-        if (element.textContent() == text)
+        if (zupackage::edit::readText(element) == text)
             return;
+        requireNoSecond(element, k_ownText, text);
+        if (m_isGuarded)
+            append(statementsOf(element, {}, text));
         const std::vector<TextEdit> edits = textReplacement(m_document, element, text, !m_isGuarded);
         m_edits.insert(m_edits.end(), edits.begin(), edits.end());
     }
@@ -147,20 +182,38 @@ private:
         const SourceAttribute attribute = attributeNamed(element, m_path.attribute());
         if (m_isGuarded)
             requireAttribute(element, entryOf(element), m_path.attribute(), value, !attribute);
-        if (!attribute)
-            m_edits.push_back(insertion(m_document, element, m_path.attribute(), value));
-        else if (attribute.value() != value)
-            m_edits.push_back(replacement(attribute, value));
+        if (attribute && zupackage::edit::readValue(attribute) == value)
+            return;
+        requireNoSecond(element, m_path.attribute(), value);
+        if (m_isGuarded)
+            append(statementsOf(element, m_path.attribute(), value));
+        m_edits.push_back(attribute ? replacement(attribute, value)
+                                    : insertion(m_document, element, m_path.attribute(), value));
     }
 
-    std::vector<TextEdit> takeEdits()
+    /// That an element which is to have that text or that attribute is not told from others by it, or by another one.
+    void requireNoSecond(SourceNode element, std::string_view changed, const std::string& value)
+    {
+        const ElementEntry* const entry = m_isGuarded ? entryOf(element) : nullptr;
+        if (!entry || entry->identity != changed)
+            return;
+        requireUnique(element, *entry, value, m_identified);
+        m_identified.push_back(element);
+    }
+
+    void append(std::vector<Statement> statements)
+    {
+        std::move(statements.begin(), statements.end(), std::back_inserter(m_statements));
+    }
+
+    Change take()
     {
         if (!m_leadsSomewhere)
             refuseAbsent(m_document, m_path);
         std::stable_sort(m_edits.begin(), m_edits.end(), [](const TextEdit& left, const TextEdit& right) {
             return left.range.begin < right.range.begin;
         });
-        return std::move(m_edits);
+        return {std::move(m_edits), std::move(m_statements)};
     }
 
     const SourceDocument& m_document;
@@ -168,9 +221,11 @@ private:
     bool m_isGuarded;
     bool m_leadsSomewhere = false;
     std::vector<TextEdit> m_edits;
+    std::vector<Statement> m_statements;
+    std::vector<SourceNode> m_identified; ///< those that are told from others by the text that is set
 };
 
-std::vector<TextEdit> textEdits(const SourceDocument& document, const PathEdit& edit, VocabularyGuard guard)
+Change changeFor(const SourceDocument& document, const PathEdit& edit, VocabularyGuard guard)
 {
     if (const auto* const set = std::get_if<SetText>(&edit))
         return PathEditor(document, set->path, guard).set(set->text);
@@ -185,15 +240,18 @@ SourceDocument edited(const SourceDocument& document, const std::vector<PathEdit
 {
     SourceDocument result = document;
     for (const PathEdit& edit : edits) {
-        const std::vector<TextEdit> changes = textEdits(result, edit, guard);
-        if (changes.empty())
+        const Change change = changeFor(result, edit, guard);
+        if (change.edits.empty())
             continue;
-        std::optional<std::string> bytes = applyEdits(result, changes);
+        std::optional<std::string> bytes = applyEdits(result, change.edits);
         if (!bytes)
             refuse("the changes meet at one place");
         result = SourceDocument::parse(std::move(*bytes));
         if (!result.isWellFormed())
             refuse("that would be no well-formed XML: " + result.errors().front().message);
+        if (const Statement* const statement = unread(result, change.statements))
+            refuse("readers would not take " + zupackage::check::inQuotes(statement->text) +
+                   " from the manifest that this makes");
     }
     return result;
 }

@@ -6,12 +6,16 @@
 #include "check/version.hpp"
 #include "check/wording.hpp"
 #include "decoding.hpp"
+#include "edit/reading.hpp"
+#include "package/package_element.hpp"
 #include "paths/path_selection.hpp"
 
 #include <zupackage/authoring/path_edit.hpp>
 #include <zupackage/behavior_info.hpp>
 
 #include <algorithm>
+#include <set>
+#include <utility>
 
 namespace zupackage::authoring {
 
@@ -94,6 +98,26 @@ const ElementEntry& requireKnownChild(const ElementEntry* parent, std::string_vi
     refuse(inQuotes(parent->name) + " has no element " + inQuotes(child) + didYouMean(nearest(child, names)));
 }
 
+[[noreturn]] void refuseSecond(std::string_view name, std::string_view identity)
+{
+    refuse("there is a " + inQuotes(name) + (identity.empty() ? "" : " for " + inQuotes(identity)) + " already");
+}
+
+/// That nothing stands in a new element twice of which there is one.
+void requireDistinctChildren(const ElementEntry& entry, const NewElement& element)
+{
+    std::set<std::pair<std::string, std::string>> known;
+    for (const NewElement& child : element.children) {
+        const ElementEntry* const childEntry = entry.child(child.name);
+        const bool isOne = childEntry && childEntry->occurrence != Occurrence::Repeated;
+        if (!childEntry || (!isOne && childEntry->identity.empty()))
+            continue;
+        const std::string identity = isOne ? std::string() : identityOf(child, *childEntry);
+        if (!known.emplace(child.name, identity).second)
+            refuseSecond(child.name, identity);
+    }
+}
+
 /// That all of a new element is what the vocabulary has.
 void requireWhole(const ElementEntry& entry, const NewElement& element)
 {
@@ -104,26 +128,38 @@ void requireWhole(const ElementEntry& entry, const NewElement& element)
             refuse(inQuotes(entry.name) + " needs " + inQuotes(attribute.name));
     }
     requireValue(entry.text, element.text);
+    requireDistinctChildren(entry, element);
     for (const NewElement& child : element.children)
         requireWhole(requireKnownChild(&entry, entry.name, child.name), child);
 }
 
-std::string textOf(SourceNode element, std::string_view identity)
+/// The elements that readers take for entries of one list with those of `entry` in `parent`.
+std::vector<SourceNode> entriesIn(SourceNode parent, const ElementEntry& entry)
 {
-    return identity == "." ? element.textContent() : std::string(attributeNamed(element, identity).value());
+    std::vector<SourceNode> entries;
+    for (const SourceNode container : sectionWith(parent)) {
+        for (const SourceNode child : container.children()) {
+            if (child.isElement() && (child.name() == entry.name || entry.parent->countsEveryChild))
+                entries.push_back(child);
+        }
+    }
+    return entries;
+}
+
+[[noreturn]] void refuseSecond(SourceNode first, const ElementEntry& entry, std::string_view identity)
+{
+    refuse("there is a " + inQuotes(first.name()) + " for " + inQuotes(identity) + " already" +
+           (first.name() == entry.name ? "" : ", which readers take for a " + inQuotes(entry.name)));
 }
 
 void requireNovelty(SourceNode parent, const ElementEntry& entry, const NewElement& element)
 {
-    const std::string* const attribute = element.attribute(entry.identity);
-    const std::string identity = attribute ? *attribute : element.text;
-    for (const SourceNode child : parent.children()) {
-        if (!child.isElement() || child.name() != element.name)
-            continue;
+    const std::string identity = identityOf(element, entry);
+    for (const SourceNode child : entriesIn(parent, entry)) {
         if (entry.occurrence != Occurrence::Repeated)
-            refuse("there is a " + inQuotes(entry.name) + " already");
-        if (!entry.identity.empty() && textOf(child, entry.identity) == identity)
-            refuse("there is a " + inQuotes(entry.name) + " for " + inQuotes(identity) + " already");
+            refuseSecond(entry.name, {});
+        if (!entry.identity.empty() && identityOf(child, entry) == identity)
+            refuseSecond(child, entry, identity);
     }
 }
 
@@ -169,6 +205,29 @@ void requireAttribute(SourceNode element, const ElementEntry* entry, std::string
         refuse("manifests have no " + inQuotes(element.name()) + ", nor what stands in it");
     if (entry && (isNew || entry->attribute(attribute)))
         requireAttributeValue(*entry, requireKnown(*entry, attribute), value);
+}
+
+std::string identityOf(SourceNode element, const ElementEntry& entry)
+{
+    return entry.identity == k_ownText ? edit::readText(element) : edit::readAttribute(element, entry.identity);
+}
+
+std::string identityOf(const NewElement& element, const ElementEntry& entry)
+{
+    if (entry.identity == k_ownText)
+        return element.text;
+    const std::string* const attribute = element.attribute(entry.identity);
+    return attribute ? *attribute : std::string();
+}
+
+void requireUnique(SourceNode element, const ElementEntry& entry, std::string_view identity,
+                   const std::vector<SourceNode>& others)
+{
+    for (const SourceNode other : entriesIn(element.parent(), entry)) {
+        const bool isToBeSo = std::find(others.begin(), others.end(), other) != others.end();
+        if (other != element && (isToBeSo || identityOf(other, entry) == identity))
+            refuseSecond(other, entry, identity);
+    }
 }
 
 void requireElement(SourceNode parent, const ElementEntry* entry, const NewElement& element)

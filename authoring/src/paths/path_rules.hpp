@@ -25,6 +25,16 @@ void requireText(zu::authoring::SourceNode element, const zu::authoring::Element
 void requireAttribute(zu::authoring::SourceNode element, const zu::authoring::ElementEntry* entry,
                       std::string_view attribute, std::string_view value, bool isNew);
 
+/// What tells an element from others of its list; empty where the vocabulary has no identity for it.
+/// @param entry what the vocabulary says about it.
+std::string identityOf(zu::authoring::SourceNode element, const zu::authoring::ElementEntry& entry);
+std::string identityOf(const NewElement& element, const zu::authoring::ElementEntry& entry);
+
+/// That no other entry has the identity that one is to have.
+/// @param others those that are to have it, too.
+void requireUnique(zu::authoring::SourceNode element, const zu::authoring::ElementEntry& entry,
+                   std::string_view identity, const std::vector<zu::authoring::SourceNode>& others);
+
 /// An element that is to be made in one that is there.
 /// @param entry what the vocabulary says about the parent; null when it says nothing.
 void requireElement(zu::authoring::SourceNode parent, const zu::authoring::ElementEntry* entry,

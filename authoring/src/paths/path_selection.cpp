@@ -1,10 +1,15 @@
 #include "paths/path_selection.hpp"
 
+#include "edit/reading.hpp"
+#include "paths/vocabulary_of_nodes.hpp"
+
 #include <algorithm>
 
 namespace zupackage::authoring {
 
+using zu::authoring::ElementEntry;
 using zu::authoring::ManifestPath;
+using zu::authoring::Occurrence;
 using zu::authoring::PathPredicate;
 using zu::authoring::PathStep;
 using zu::authoring::SourceAttribute;
@@ -16,7 +21,7 @@ namespace {
 bool hasChild(SourceNode element, const PathPredicate& predicate)
 {
     for (const SourceNode child : element.children()) {
-        if (child.isElement() && child.name() == predicate.name && child.textContent() == predicate.value)
+        if (child.isElement() && child.name() == predicate.name && edit::readText(child) == predicate.value)
             return true;
     }
     return false;
@@ -34,11 +39,11 @@ void filter(std::vector<SourceNode>& elements, const PathPredicate& predicate)
     }
     const auto fails = [&predicate](SourceNode element) {
         if (predicate.kind == PathPredicate::Kind::OwnText)
-            return element.textContent() != predicate.value;
+            return edit::readText(element) != predicate.value;
         if (predicate.kind == PathPredicate::Kind::Child)
             return !hasChild(element, predicate);
         const SourceAttribute attribute = attributeNamed(element, predicate.name);
-        return !attribute || attribute.value() != predicate.value;
+        return !attribute || edit::readValue(attribute) != predicate.value;
     };
     elements.erase(std::remove_if(elements.begin(), elements.end(), fails), elements.end());
 }
@@ -77,11 +82,46 @@ SourceAttribute attributeNamed(SourceNode element, std::string_view name)
     return {};
 }
 
+std::vector<std::vector<SourceNode>> sectionsOf(const std::vector<SourceNode>& elements)
+{
+    std::vector<std::vector<SourceNode>> sections;
+    for (const SourceNode element : elements) {
+        const ElementEntry* const entry = entryOf(element);
+        const bool isSection = entry && entry->occurrence != Occurrence::Repeated;
+        const auto same = std::find_if(sections.begin(), sections.end(), [&](const std::vector<SourceNode>& section) {
+            return isSection && section.front().name() == element.name();
+        });
+        if (same == sections.end())
+            sections.push_back({element});
+        else
+            same->push_back(element);
+    }
+    return sections;
+}
+
+std::vector<SourceNode> sectionWith(SourceNode element)
+{
+    const ElementEntry* const entry = entryOf(element);
+    if (!entry || !entry->parent || entry->occurrence == Occurrence::Repeated)
+        return {element};
+    std::vector<SourceNode> section;
+    for (const SourceNode parent : sectionWith(element.parent())) {
+        for (const SourceNode child : parent.children()) {
+            if (child.isElement() && child.name() == element.name())
+                section.push_back(child);
+        }
+    }
+    return section;
+}
+
 } // namespace zupackage::authoring
 
 namespace zu::authoring {
 
-std::string PathTarget::text() const { return attribute ? std::string(attribute.value()) : element.textContent(); }
+std::string PathTarget::text() const
+{
+    return attribute ? zupackage::edit::readValue(attribute) : zupackage::edit::readText(element);
+}
 
 std::vector<PathTarget> select(const SourceDocument& document, const ManifestPath& path)
 {

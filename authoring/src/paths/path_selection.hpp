@@ -18,4 +18,11 @@ std::vector<zu::authoring::SourceNode> beginning(const zu::authoring::SourceDocu
 /// The attribute of exactly that name; null when there is none.
 zu::authoring::SourceAttribute attributeNamed(zu::authoring::SourceNode element, std::string_view name);
 
+/// The elements, which `stepFrom` found in one section, in groups that readers take for one: of a section that stands
+/// there more than once they take the children of all.
+std::vector<std::vector<zu::authoring::SourceNode>> sectionsOf(const std::vector<zu::authoring::SourceNode>& elements);
+
+/// What readers take for one with the element, and the element itself, in the order of the document.
+std::vector<zu::authoring::SourceNode> sectionWith(zu::authoring::SourceNode element);
+
 } // namespace zupackage::authoring

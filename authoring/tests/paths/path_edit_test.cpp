@@ -157,6 +157,38 @@ TEST(PathEdit, AnEntryIsAppendedWithAttributesChildrenAndTexts)
               "<p><supportedLanguages><language>fr</language></supportedLanguages></p>");
 }
 
+TEST(PathEdit, PartsOfOnePathAreEntriesOfTheirOwnInAList)
+{
+    EXPECT_EQ(edit("<p><contents/></p>",
+                   {adding("contents/behaviorContent", {setting("@path", "a"), setting("tags/tag[@lang='en']", "1"),
+                                                        setting("tags/tag[@lang='en']", "2"),
+                                                        setting("tags/tag/@lang", "fr"), setting("tags/tag", "3")})}),
+              "<p><contents><behaviorContent path=\"a\"><tags><tag lang=\"en\">1</tag><tag lang=\"en\">2</tag>"
+              "<tag lang=\"fr\">3</tag></tags></behaviorContent></contents></p>");
+}
+
+TEST(PathEdit, ContradictionsAreRefused)
+{
+    const std::pair<PathEdit, const char*> cases[] = {
+        {adding("contents/behaviorContent[@path='x']", {setting("@path", "a")}),
+         "refused: \"@path\" cannot become \"a\" and something else, too"},
+        {adding("contents/behaviorContent[@path='x']",
+                {setting("nature", "solitary"), setting("nature", "interactive")}),
+         "refused: \"nature\" cannot become \"interactive\" and something else, too"},
+        {adding("contents/behaviorContent[@path='x']",
+                {setting("names/name[@lang='en']", "a"), setting("names/name[@lang='en']", "b")}),
+         "refused: there is a \"name\" for \"en\" already"},
+        {setting("contents/behaviorContent[@path='a'][@path='b']/userRequestable", ""),
+         "refused: \"behaviorContent[@path='a'][@path='b']\" does not say what to make"},
+        {setting("supportedLanguages/language[.='fr']", "de"),
+         "not there: there is no supportedLanguages/language[.='fr']; the nearest is /package"},
+        {setting("names/name[@lang='de']/@lang", "es"),
+         "not there: there is no names/name[@lang='de']/@lang; the nearest is names/name[@lang='en']"},
+    };
+    for (const auto& [one, reason] : cases)
+        EXPECT_EQ(failure(k_manifest, {one}), reason);
+}
+
 TEST(PathEdit, RemovingTakesTheLineOfAnElementAndTheBlankBeforeAnAttribute)
 {
     EXPECT_EQ(edit(k_manifest, {removing("names/name[@lang='fr']")}), replaced("    <name lang='fr'>Un</name>\n", ""));

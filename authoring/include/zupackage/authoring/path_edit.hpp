@@ -24,8 +24,10 @@ struct SetText
 /// missing, as SetText does it.
 struct AddEntry
 {
-    ManifestPath path;          ///< to the list, and then the entry as its last step
-    std::vector<SetText> parts; ///< what stands in the entry, with paths relative to it; "." is its own text
+    ManifestPath path; ///< to the list, and then the entry as its last step
+    /// What stands in the entry, with paths relative to it; "." is its own text. Parts of one path are entries of their
+    /// own in a list, one behind the other; elsewhere they must not contradict each other, nor the path.
+    std::vector<SetText> parts;
 };
 
 /// Takes everything away that the path leads to, an element with its line when nothing else stands there.
@@ -63,7 +65,8 @@ enum class VocabularyGuard
 {
     /// Edits are refused that make elements or attributes that manifests do not have, or a second one of what stands
     /// there once, that give values which are none of their kind (a flag "yes"), that leave an entry without an
-    /// attribute that it needs, or that put a text in the place of elements.
+    /// attribute that it needs, that give two entries the same identity, that put a text in the place of elements, or
+    /// after which readers of manifests do not take from the document what was set or added.
     Enforced,
     /// Everything is made that leaves the document well-formed.
     Waived
