@@ -14,7 +14,13 @@ using authoring::VocabularyGuard;
 
 namespace {
 
-std::string_view textOf(const SourceDocument& document) { return document.source({0, document.text().size()}); }
+/// The bytes of a document; in UTF-8 where lines of them would be none for those who read them, and for `patch`.
+std::string_view linesOf(const SourceDocument& document)
+{
+    const std::string& encoding = document.encoding();
+    const bool isWide = encoding.compare(0, 6, "UTF-16") == 0 || encoding.compare(0, 6, "UTF-32") == 0;
+    return isWide ? document.source({0, document.text().size()}) : std::string_view(document.text());
+}
 
 } // namespace
 
@@ -90,7 +96,7 @@ ExitCode writeDocument(const std::string& path, const std::string& bytes)
 
 std::string differenceOf(const std::string& path, const SourceDocument& before, const SourceDocument& after)
 {
-    return unifiedDiff(shownName(path), textOf(before), textOf(after));
+    return unifiedDiff(shownName(path), linesOf(before), linesOf(after));
 }
 
 } // namespace zu::cli

@@ -35,7 +35,8 @@ ExitCode editManifest(const EditArguments& arguments, const std::vector<authorin
 /// @param path of the manifest; "-" for standard output.
 ExitCode writeDocument(const std::string& path, const std::string& bytes);
 
-/// The difference between two documents, whatever their encoding, in UTF-8.
+/// The difference between two documents, in their own bytes, as `patch -p0` takes it; that of documents in UTF-16 or
+/// UTF-32, which have no lines for `patch`, in UTF-8.
 std::string differenceOf(const std::string& path, const authoring::SourceDocument& before,
                          const authoring::SourceDocument& after);
 

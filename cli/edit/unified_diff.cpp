@@ -87,13 +87,38 @@ private:
     std::string m_text;
 };
 
+bool needsEscape(char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f' || c == '"' || c == '\\'; }
+
+std::string escaped(char c)
+{
+    if (c == '"' || c == '\\')
+        return {'\\', c};
+    const auto digit = [byte = static_cast<unsigned char>(c)](unsigned shift) {
+        return static_cast<char>('0' + (byte >> shift & 7U));
+    };
+    return {'\\', digit(6), digit(3), digit(0)};
+}
+
+/// The name of a file such that GNU patch takes all of it: as GNU diff does, in C's quotes when it has what ends a line
+/// or a quoted name, else with a tab behind it when it has blanks.
+std::string nameInHeader(const std::string& name)
+{
+    if (name.front() != ' ' && std::none_of(name.begin(), name.end(), needsEscape))
+        return name.find(' ') == std::string::npos ? name : name + "\t";
+    std::string quoted = "\"";
+    for (const char c : name)
+        quoted += needsEscape(c) ? escaped(c) : std::string(1, c);
+    return quoted + '"';
+}
+
 } // namespace
 
 std::string unifiedDiff(const std::string& name, std::string_view before, std::string_view after)
 {
     if (before == after)
         return {};
-    return "--- " + name + "\n+++ " + name + "\n" + HunkWriter(lineSteps(before, after)).hunks();
+    const std::string header = nameInHeader(name);
+    return "--- " + header + "\n+++ " + header + "\n" + HunkWriter(lineSteps(before, after)).hunks();
 }
 
 } // namespace zu::cli

@@ -130,7 +130,7 @@ TEST_F(EditCommands, FarDifferencesStandInHunksOfTheirOwn)
         lines += "<!-- " + std::to_string(i) + " -->\n";
     const ProgramResult result =
         run({"set", "-", "@uuid=b", "names/name[@lang='en']=A", "--dry-run"}, "<p uuid='a'>\n" + lines + "</p>\n");
-    EXPECT_EQ(result.output, "--- standard input\n+++ standard input\n"
+    EXPECT_EQ(result.output, "--- standard input\t\n+++ standard input\t\n"
                              "@@ -1,4 +1,4 @@\n"
                              "-<p uuid='a'>\n"
                              "+<p uuid='b'>\n"
