@@ -47,6 +47,8 @@ const std::vector<Rule> k_rules = {
     {"src/variant/", {"src/variant/", "include/zupackage/vxvalue.hpp", k_framework, "std/"}},
     {"src/dump/", {"src/dump/", "src/records/", k_package, "std/"}},
     {"src/manifest/package_log.", {"src/manifest/", k_framework, "std/"}},
+    {"src/manifest/manifest_saver.",
+     {"src/manifest/", "src/records/", "src/xml/", k_package, "QtCore/", "sys/", "std/"}},
     {"src/manifest/", {"src/manifest/", "src/records/", "src/xml/", k_package, "QtCore/", "QtXml/", "std/"}},
     {"src/wire/", {"src/wire/", "src/records/", "src/variant/", k_package, "std/"}},
     {"src/value_model/",
