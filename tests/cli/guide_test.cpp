@@ -30,18 +30,26 @@ TEST(Guide, ShowsTheLanguagesOfAnExample)
     test::expectGolden(zupackageIn(examples / "story-teller", {"languages"}).output, "guide/languages.txt");
 }
 
-TEST(Guide, ShowsFindings)
+TEST(Guide, ShowsFindingsAndHowTheyAreMended)
 {
     const test::TemporaryFolder folder;
+    const std::string manifest = "wave-hello/manifest.xml";
+    const std::string french = "<!-- French: ask Odile -->";
     zupackageIn(folder.path(), {"new", "wave-hello", "--kind", "behavior", "--language", "en", "--language", "fr"});
-    const std::string skeleton = test::readFile(folder.path() / "wave-hello/manifest.xml");
-    folder.file("wave-hello/manifest.xml",
-                replaced(skeleton, " <supportedLanguages>",
-                         " <descriptions>\n  <!-- French: ask Odile -->\n"
-                         "  <description lang=\"en\">Waves when somebody says hello.</description>\n"
-                         " </descriptions>\n <supportedLanguages>"));
+    const auto set = zupackageIn(folder.path(), {"set", "wave-hello", "@author=Kerstin",
+                                                 "names/name[@lang='en']=Wave hello", "names/name[@lang='fr']=Saluer"});
+    EXPECT_EQ(set.exitCode, 0) << set.errors;
+    folder.file(manifest, replaced(test::readFile(folder.path() / manifest), " <supportedLanguages>",
+                                   " <descriptions>\n  " + french +
+                                       "\n  <description lang=\"en\">Waves when somebody says hello.</description>\n"
+                                       " </descriptions>\n <supportedLanguages>"));
     const test::ProgramResult check = zupackageIn(folder.path(), {"check", "wave-hello"});
     test::expectGolden(check.output + check.errors, "guide/findings.txt");
+    folder.file(manifest, replaced(test::readFile(folder.path() / manifest), french,
+                                   "<description lang=\"fr\">Fait signe quand on dit bonjour.</description>"));
+    const test::ProgramResult mended = zupackageIn(folder.path(), {"check", "--fail-on", "pedantic", "wave-hello"});
+    EXPECT_EQ(mended.exitCode, 0);
+    EXPECT_EQ(mended.output + mended.errors, "no findings in 1 manifest\n");
 }
 
 TEST(Guide, ShowsHowJsonIsRefused)
