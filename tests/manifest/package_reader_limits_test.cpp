@@ -165,6 +165,8 @@ TEST(PackageReaderLimit, AttributesOfAnElement)
     const auto attribute = [](const std::string& i) { return "a" + i + "='' "; };
     expectRead("<p " + numbered(10'000, attribute) + "/>");
     expectRead("<p>" + repeated(1100, "<a " + numbered(100, attribute) + "/>") + "</p>");
+    expectRead("<!DOCTYPE p><p>" + repeated(50, "<a " + numbered(300, attribute) + "/>") + "</p>");
+    expectRead("<y:p>" + repeated(100, "<y:a " + numbered(100, attribute) + "/>") + "</y:p>");
     expectTooManySteps("<!DOCTYPE p><p " + numbered(20'000, attribute) + "/>");
 }
 
