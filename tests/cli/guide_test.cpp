@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace zu {
 
 using test::k_waveManifest;
@@ -50,6 +52,24 @@ TEST(Guide, ShowsFindingsAndHowTheyAreMended)
     const test::ProgramResult mended = zupackageIn(folder.path(), {"check", "--fail-on", "pedantic", "wave-hello"});
     EXPECT_EQ(mended.exitCode, 0);
     EXPECT_EQ(mended.output + mended.errors, "no findings in 1 manifest\n");
+}
+
+TEST(Guide, ShowsTheDifferenceOfTwoVersions)
+{
+    const std::string before = test::readFile(test::sourcePath("examples/packages/story-teller/manifest.xml"));
+    std::string after = replaced(before, "version=\"2.1.0\"", "version=\"2.2.0\"");
+    after = replaced(after, "It's story time", "Story time!");
+    after = replaced(after, "</names>", "<name lang=\"es\">La hora del cuento</name></names>");
+    const auto place = [&after](const std::string& text) {
+        return after.begin() + static_cast<std::ptrdiff_t>(after.find(text));
+    };
+    std::rotate(place("<dialogContent topicName=\"story_choice\""), place("<dialogContent topicName=\"story_chat\""),
+                place("</contents>"));
+    const test::TemporaryFolder folder;
+    folder.file("story-teller-2.1", before);
+    folder.file("story-teller-2.2", after);
+    test::expectGolden(zupackageIn(folder.path(), {"diff", "story-teller-2.1", "story-teller-2.2"}).output,
+                       "guide/difference.txt");
 }
 
 TEST(Guide, ShowsHowJsonIsRefused)
