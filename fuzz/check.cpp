@@ -12,10 +12,21 @@ namespace {
 using zu::authoring::Diagnostic;
 using zu::authoring::SourceDocument;
 
+constexpr const char* k_unreadable = "unreadable";
+
 std::string readAs(const std::string& bytes)
 {
     zu::PackageInfo package;
-    return zu::readManifest(bytes, package) ? package.saveToManifestContent() : "unreadable";
+    return zu::readManifest(bytes, package) ? package.saveToManifestContent() : k_unreadable;
+}
+
+/// Whether the finding tells rightly what the reader makes of the document.
+bool tellsTheTruth(const Diagnostic& finding, const std::string& bytes)
+{
+    if (finding.rule != "not-well-formed")
+        return true;
+    const bool saysRefused = finding.message.find("; the robot refuses the whole manifest") != std::string::npos;
+    return saysRefused == (readAs(bytes) == k_unreadable);
 }
 
 /// These make of the package what was meant.
@@ -39,6 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         fuzz::require(document.isWellFormed() || !findings.empty(), "an error is not found: " + text);
         for (const Diagnostic& finding : findings) {
             fuzz::require(finding.range.bytes.end <= text.size(), finding.rule + " lies outside: " + text);
+            fuzz::require(tellsTheTruth(finding, text), finding.message + ": " + text);
             fuzz::require(!finding.fix || applyEdits(document, finding.fix->edits), finding.rule + " fixes: " + text);
         }
         isChanged = isChanged || std::any_of(findings.begin(), findings.end(), &changesThePackage);

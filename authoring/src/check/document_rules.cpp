@@ -20,8 +20,8 @@ using zu::authoring::SyntaxError;
 std::string leniencyTo(const SourceDocument& document)
 {
     zu::PackageInfo package;
-    return zu::readManifest(document.text(), package) ? "the robot refuses the whole manifest"
-                                                      : "the robot repairs it and reads the manifest all the same";
+    return zu::readManifest(document.text(), package) ? "the robot overlooks it and reads the manifest all the same"
+                                                      : "the robot refuses the whole manifest";
 }
 
 bool isForbiddenCharacter(const SyntaxError& error, const std::vector<ByteRange>& forbidden)
@@ -122,9 +122,12 @@ const std::vector<RuleRow>& documentRules()
 {
     static const std::vector<RuleRow> rules = {
         {{"not-well-formed", Severity::Error, "The document is not well-formed XML",
-          "Editors, stores and other tools refuse such a document. The robot's own parser is lenient: it reads what "
-          "there is of a document that breaks off, and repairs bytes that mean nothing. Some errors end the check: "
-          "what comes after them is judged once they are gone.",
+          "Editors, stores and other tools refuse such a document. The robot's own parser is lenient: it overlooks an "
+          "attribute that stands twice, an entity that nobody declares and bytes that mean nothing. For a document "
+          "that "
+          "breaks off, a tag that ends another one and most other errors it refuses the whole manifest. Each finding "
+          "says which of the two the robot does. Some errors end the check: what comes after them is judged once they "
+          "are gone.",
           ExampleFrame::Package, "<descriptions><description lang=\"en\">Fish & chips</description></descriptions>",
           "<descriptions><description lang=\"en\">Fish &amp; chips</description></descriptions>", ""},
          findIllFormed},

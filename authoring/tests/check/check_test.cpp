@@ -11,8 +11,13 @@
 
 namespace zu::authoring {
 
+using testing::Contains;
+using testing::Each;
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
 using testing::SizeIs;
 
 namespace {
@@ -105,14 +110,37 @@ TEST(Check, JudgesWhatAnErrorLeaves)
 
 TEST(Check, SaysWhatRobotsMakeOfAnIllFormedDocument)
 {
-    const auto messages = [](const std::string& document) {
-        std::string text;
-        for (const Diagnostic& finding : check(SourceDocument::parse(document)).findings)
-            text += finding.message + "\n";
-        return text;
-    };
-    EXPECT_THAT(messages("<package>"), HasSubstr("; the robot repairs it and reads the manifest all the same\n"));
-    EXPECT_THAT(messages("<package uuid='u' uuid='v'/>"), HasSubstr("; the robot refuses the whole manifest\n"));
+    constexpr std::string_view k_refused = "; the robot refuses the whole manifest";
+    constexpr std::string_view k_read = "; the robot overlooks it and reads the manifest all the same";
+    for (const auto& [bytes, isRead] :
+         std::vector<std::pair<std::string, bool>>{{"", false},
+                                                   {"text", false},
+                                                   {"<package>", false},
+                                                   {"<package><names></package>", false},
+                                                   {"<package/><package/>", false},
+                                                   {"<package version=1/>", false},
+                                                   {"<package version='<'/>", false},
+                                                   {"<package>&</package>", false},
+                                                   {"<package>]]></package>", false},
+                                                   {"<package><!-- a -- b --></package>", false},
+                                                   {" <?xml version='1.0'?><package/>", false},
+                                                   {"<package uuid='u' uuid='v'/>", true},
+                                                   {"<package uuid='u'version='1'/>", true},
+                                                   {"<package>&nobody;</package>", true},
+                                                   {"<package>\xFF</package>", true},
+                                                   {"<?xml version='1.1'?><package/>", true},
+                                                   {"<?xml version='1.0' encoding='none'?><package/>", true}}) {
+        SCOPED_TRACE(bytes);
+        PackageInfo package;
+        EXPECT_EQ(readManifest(bytes, package), isRead);
+        std::vector<std::string> messages;
+        for (const Diagnostic& finding : check(SourceDocument::parse(bytes)).findings) {
+            if (finding.rule == "not-well-formed")
+                messages.push_back(finding.message);
+        }
+        EXPECT_THAT(messages, Not(IsEmpty()));
+        EXPECT_THAT(messages, Each(EndsWith(std::string(isRead ? k_read : k_refused))));
+    }
 }
 
 TEST(Check, TakesAnyBytes)
