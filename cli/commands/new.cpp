@@ -1,13 +1,16 @@
 #include "commands/new.hpp"
 
+#include "display_width.hpp"
 #include "new/skeleton.hpp"
 #include "output.hpp"
 
 #include <zupackage/authoring/check.hpp>
 #include <zupackage/authoring/schema.hpp>
 
+#include <QtCore/QString>
 #include <QtCore/QUuid>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -22,12 +25,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// What an option holds that is not there: no argument has a zero byte.
+std::string notGiven() { return std::string(1, '\0'); }
+
+bool isGiven(const std::string& value) { return value != notGiven(); }
+
 struct NewArguments
 {
     std::vector<std::string> folders;
     std::string kind = "behavior";
-    std::string uuid;
-    std::string name;
+    std::string uuid = notGiven();
+    std::string name = notGiven();
     std::vector<std::string> languages;
     bool namesSchema = false;
 };
@@ -43,10 +51,10 @@ SkeletonWish wishOf(const NewArguments& arguments, const std::string& folder)
 {
     SkeletonWish wish;
     wish.kind = arguments.kind;
-    wish.name = arguments.name.empty() ? lastNameOf(folder) : arguments.name;
+    wish.name = isGiven(arguments.name) ? arguments.name : lastNameOf(folder);
     wish.slug = slugOf(wish.name);
     wish.uuid =
-        arguments.uuid.empty() ? QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() : arguments.uuid;
+        isGiven(arguments.uuid) ? arguments.uuid : QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString();
     wish.languages = arguments.languages.empty() ? std::vector<std::string>{"en"} : arguments.languages;
     return wish;
 }
@@ -56,6 +64,43 @@ std::string withSchema(std::string manifest)
 {
     return manifest.insert(manifest.find('\n') + 1, "<?xml-model href=\"" + authoring::xmlSchemaUri() +
                                                         "\" schematypens=\"http://www.w3.org/2001/XMLSchema\"?>\n");
+}
+
+bool isControl(QChar c) { return c.category() == QChar::Other_Control; }
+
+/// What a package cannot have for a name or a uuid, in words that go on a sentence; empty when it can.
+const char* unfitness(const std::string& text)
+{
+    const QString characters = QString::fromStdString(text);
+    if (characters.trimmed().isEmpty())
+        return "is empty or white space alone";
+    return std::any_of(characters.begin(), characters.end(), &isControl) ? "has a control character in it" : "";
+}
+
+/// What is wrong with what the user gave; empty when nothing is.
+std::string faultOf(const NewArguments& arguments)
+{
+    struct Option
+    {
+        const char* name;
+        const std::string& value;
+    };
+    for (const Option& option : {Option{"--uuid", arguments.uuid}, Option{"--name", arguments.name}}) {
+        const std::string fault = isGiven(option.value) ? unfitness(option.value) : "";
+        if (!fault.empty())
+            return std::string(option.name) + ": the value " + fault;
+    }
+    for (auto language = arguments.languages.begin(); language != arguments.languages.end(); ++language) {
+        if (std::find(arguments.languages.begin(), language, *language) != language)
+            return "--language: \"" + displayed(*language) + "\" is given twice";
+    }
+    for (const std::string& folder : arguments.folders) {
+        const std::string fault = isGiven(arguments.name) ? "" : unfitness(lastNameOf(folder));
+        if (!fault.empty())
+            return "FOLDER: the name of the folder \"" + displayed(folder) + "\" " + fault +
+                   "; give the package one by --name";
+    }
+    return {};
 }
 
 /// Says what a check of the manifest finds, which comes from what the user gave.
@@ -98,10 +143,13 @@ ExitCode makePackage(const NewArguments& arguments, const std::string& folder)
     skeleton.files.push_back({"manifest.xml", manifest, false});
     std::error_code error;
     for (const SkeletonFile& file : skeleton.files) {
-        if (fs::symlink_status(fs::path(folder) / file.path, error).type() != fs::file_type::not_found) {
-            complain((fs::path(folder) / file.path).string() + " is there already");
-            return k_outputFailed;
-        }
+        const fs::path path = fs::path(folder) / file.path;
+        const fs::file_type type = fs::symlink_status(path, error).type();
+        if (type == fs::file_type::not_found)
+            continue;
+        complain(type == fs::file_type::none ? "cannot make " + path.string() + ": " + error.message()
+                                             : path.string() + " is there already");
+        return k_outputFailed;
     }
     for (const SkeletonFile& file : skeleton.files) {
         const fs::path path = fs::path(folder) / file.path;
@@ -118,6 +166,11 @@ ExitCode makePackage(const NewArguments& arguments, const std::string& folder)
 
 ExitCode makePackages(const NewArguments& arguments)
 {
+    const std::string fault = faultOf(arguments);
+    if (!fault.empty()) {
+        complain(fault);
+        return k_usage;
+    }
     ExitCode result = k_success;
     for (const std::string& folder : arguments.folders)
         result = worse(result, makePackage(arguments, folder));

@@ -9,6 +9,7 @@
 namespace zu {
 
 using test::ProgramResult;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -89,6 +90,45 @@ TEST_F(NewCommand, RefusesWhatAManifestShouldNotHold)
     EXPECT_EQ(result.exitCode, 2);
     EXPECT_THAT(result.errors, HasSubstr("\"english\" is no language code"));
     EXPECT_FALSE(std::filesystem::exists(path("a")));
+}
+
+TEST_F(NewCommand, RefusesAnIdOrANameThatNobodyCanSee)
+{
+    for (const char* option : {"--uuid", "--name"}) {
+        const std::string beginning = "zupackage: " + std::string(option) + ": the value ";
+        for (const char* blank : {"", " ", "\t", "\xE3\x80\x80"}) {
+            const ProgramResult result = zupackage({"new", path("a"), option, blank});
+            EXPECT_EQ(result.exitCode, 2);
+            EXPECT_EQ(result.errors, beginning + "is empty or white space alone\n");
+        }
+        const ProgramResult result = zupackage({"new", path("a"), option, "a\nb"});
+        EXPECT_EQ(result.exitCode, 2);
+        EXPECT_EQ(result.errors, beginning + "has a control character in it\n");
+    }
+    EXPECT_FALSE(std::filesystem::exists(path("a")));
+}
+
+TEST_F(NewCommand, NeedsANameWhereThatOfTheFolderIsNone)
+{
+    const ProgramResult result = zupackage({"new", path("a\nb")});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_THAT(result.errors, HasSubstr("has a control character in it; give the package one by --name\n"));
+    EXPECT_EQ(zupackage({"new", path("a\nb"), "--name", "x"}).exitCode, 0);
+}
+
+TEST_F(NewCommand, RefusesALanguageThatIsGivenTwice)
+{
+    const ProgramResult result = zupackage({"new", path("a"), "--language", "en", "--language", "en"});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_EQ(result.errors, "zupackage: --language: \"en\" is given twice\n");
+    EXPECT_FALSE(std::filesystem::exists(path("a")));
+}
+
+TEST_F(NewCommand, SaysWhyItCannotLookIntoTheFolder)
+{
+    const ProgramResult result = zupackage({"new", path(std::string(300, 'x'))});
+    EXPECT_EQ(result.exitCode, 5);
+    EXPECT_THAT(result.errors, EndsWith(": File name too long\n"));
 }
 
 TEST_F(NewCommand, KnowsItsKinds) { EXPECT_EQ(zupackage({"new", path("a"), "--kind", "game"}).exitCode, 2); }
