@@ -1,6 +1,7 @@
 #include "check/findings.hpp"
 #include "check/language_tag.hpp"
 #include "check/wording.hpp"
+#include "edit/reading.hpp"
 
 #include <algorithm>
 #include <map>
@@ -36,7 +37,7 @@ std::vector<Code> codesIn(const Outline& outline)
                 codes.push_back({element, attribute, std::string(attribute.value())});
         }
         if (entry.text == ValueKind::LanguageCode) {
-            std::string text = element.textContent();
+            std::string text = edit::readText(element);
             if (!isBlank(text))
                 codes.push_back({element, {}, std::move(text)});
         }
@@ -70,6 +71,17 @@ void findUnknownLanguages(const Checked& checked, Findings& findings)
                                  : unknown.data() == tag->script.data() ? "script"
                                                                         : "country";
         report(findings, code, "there is no " + std::string(what) + " " + inQuotes(unknown));
+    }
+}
+
+void findFormerLanguages(const Checked& checked, Findings& findings)
+{
+    for (const Code& code : codesIn(checked.outline)) {
+        const auto tag = parseLanguageTag(trimmed(code.text));
+        const std::string_view present = tag ? successor(*tag) : std::string_view();
+        if (!present.empty())
+            report(findings, code,
+                   inQuotes(tag->language) + " is a former code of a language: write " + inQuotes(present));
     }
 }
 
@@ -122,13 +134,12 @@ const std::vector<RuleRow>& languageRules()
         {{"malformed-language", Severity::Error, "A language code that is none",
           "A code is a language of two or three letters, with a script, a country and variants where they are wanted, "
           "parted by hyphens or underscores: \"en\", \"fr_CA\", \"zh-Hant-TW\". Robots look for exactly the code that "
-          "they "
-          "are set to.",
-          ExampleFrame::Contents,
-          "<dialogContent topicName=\"food\"><topic language=\"en\" path=\"food.en.talk\"/>"
-          "<topic language=\"french\" path=\"food.fr.talk\"/></dialogContent>",
-          "<dialogContent topicName=\"food\"><topic language=\"en\" path=\"food.en.talk\"/>"
-          "<topic language=\"fr\" path=\"food.fr.talk\"/></dialogContent>",
+          "they are set to.",
+          ExampleFrame::Languages,
+          "<supportedLanguages><language>french</language></supportedLanguages>"
+          "<descriptionLanguages><language>en</language></descriptionLanguages>",
+          "<supportedLanguages><language>fr</language></supportedLanguages>"
+          "<descriptionLanguages><language>en</language></descriptionLanguages>",
           ""},
          findMalformedLanguages},
         {{"unknown-language", Severity::Warning, "A language, script or country that no standard knows",
@@ -139,6 +150,17 @@ const std::vector<RuleRow>& languageRules()
           "<descriptionLanguages><language>en</language></descriptionLanguages>",
           ""},
          findUnknownLanguages},
+        {{"former-language", Severity::Warning, "A language code that another one has replaced",
+          "The codes \"in\", \"iw\", \"ji\", \"jw\" and \"mo\" were given up for \"id\", \"he\", \"yi\", \"jv\" and "
+          "\"ro\". "
+          "Robots compare codes to the byte, so that a text in the one is not found for the other.",
+          ExampleFrame::Languages,
+          "<supportedLanguages><language>iw</language></supportedLanguages>"
+          "<descriptionLanguages><language>en</language></descriptionLanguages>",
+          "<supportedLanguages><language>he</language></supportedLanguages>"
+          "<descriptionLanguages><language>en</language></descriptionLanguages>",
+          ""},
+         findFormerLanguages},
         {{"mixed-language-style", Severity::Warning, "Language codes in different styles",
           "Codes are compared to the byte: \"fr_CA\", \"fr-CA\" and \"fr_ca\" are three languages to readers.",
           ExampleFrame::Languages,

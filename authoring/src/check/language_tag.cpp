@@ -27,9 +27,29 @@ bool isRegion(std::string_view part)
     return (part.size() == 2 && lettersOnly(part)) || (part.size() == 3 && digitsOnly(part));
 }
 
+bool isExtendedLanguage(std::string_view part) { return part.size() == 3 && lettersOnly(part); }
+
 bool isVariant(std::string_view part)
 {
     return (part.size() >= 5 && part.size() <= 8) || (part.size() == 4 && isDigit(part.front()));
+}
+
+/// Codes that were registered before the syntax that they do not follow, in the spelling that they were registered in.
+/// All others of that time follow it.
+constexpr std::array<std::string_view, 17> k_registered = {
+    "en-GB-oed", "i-ami", "i-bnn", "i-default", "i-enochian", "i-hak",     "i-klingon", "i-lux",    "i-mingo",
+    "i-navajo",  "i-pwn", "i-tao", "i-tay",     "i-tsu",      "sgn-BE-FR", "sgn-BE-NL", "sgn-CH-DE"};
+
+/// The one of them that the code is, but for case and separators; empty when it is none.
+std::string_view registeredCode(std::string_view code, char separator)
+{
+    const auto isIt = [=](std::string_view registered) {
+        return std::equal(code.begin(), code.end(), registered.begin(), registered.end(), [=](char c, char known) {
+            return known == '-' ? c == separator : lowered(c) == lowered(known);
+        });
+    };
+    const auto found = std::find_if(k_registered.begin(), k_registered.end(), isIt);
+    return found == k_registered.end() ? std::string_view() : *found;
 }
 
 /// The parts of a code; nothing where one is empty, too long or holds anything but letters and digits, or where
@@ -63,6 +83,27 @@ bool areExtensions(const std::vector<std::string_view>& parts, std::size_t next)
             return false;
     }
     return true;
+}
+
+/// Takes the language of a tag, and what narrows it down.
+/// @return how many parts that were; 0 when the tag does not begin with a language.
+std::size_t takeLanguage(const std::vector<std::string_view>& parts, LanguageTag& tag)
+{
+    constexpr std::size_t k_mostExtended = 3;
+    const std::string_view language = parts.front();
+    if (language.size() < 2 || language.size() > 3 || !lettersOnly(language))
+        return 0;
+    tag.language = language;
+    std::size_t next = 1;
+    while (next < parts.size() && next <= k_mostExtended && isExtendedLanguage(parts[next]))
+        ++next;
+    if (next < parts.size() && isScript(parts[next]))
+        tag.script = parts[next++];
+    if (next < parts.size() && isRegion(parts[next]))
+        tag.region = parts[next++];
+    while (next < parts.size() && isVariant(parts[next]))
+        ++next;
+    return next;
 }
 
 bool isOneOf(std::string_view codes, std::size_t length, std::string_view code)
@@ -102,28 +143,16 @@ std::optional<LanguageTag> parseLanguageTag(std::string_view code)
         return std::nullopt;
 
     LanguageTag tag{{}, {}, {}, separator};
-    std::size_t next = 0;
-    if (parts->front().size() > 1) {
-        const std::string_view language = parts->front();
-        if (language.size() > 3 || !lettersOnly(language))
-            return std::nullopt;
-        tag.language = language;
-        ++next;
-        if (next < parts->size() && isScript((*parts)[next]))
-            tag.script = (*parts)[next++];
-        if (next < parts->size() && isRegion((*parts)[next]))
-            tag.region = (*parts)[next++];
-        while (next < parts->size() && isVariant((*parts)[next]))
-            ++next;
-    } else if (lowered(code.front()) != 'x') {
-        return std::nullopt;
-    }
-    return areExtensions(*parts, next) ? std::optional(tag) : std::nullopt;
+    if (!registeredCode(code, separator).empty())
+        return tag;
+    const bool isPrivate = lowered(parts->front().front()) == 'x' && parts->front().size() == 1;
+    const std::size_t taken = isPrivate ? 0 : takeLanguage(*parts, tag);
+    return (isPrivate || taken > 0) && areExtensions(*parts, taken) ? std::optional(tag) : std::nullopt;
 }
 
 std::string_view unknownPart(const LanguageTag& tag)
 {
-    if (!tag.language.empty() && !isKnownLanguage(tag.language))
+    if (!tag.language.empty() && !isKnownLanguage(tag.language) && successor(tag).empty())
         return tag.language;
     if (!tag.script.empty() && !isOneOf(codes::k_scripts, 4, tag.script))
         return tag.script;
@@ -133,12 +162,36 @@ std::string_view unknownPart(const LanguageTag& tag)
     return {};
 }
 
+std::string_view successor(const LanguageTag& tag)
+{
+    struct Replaced
+    {
+        std::string_view former;
+        std::string_view code;
+    };
+    // ISO 639 took these back; its data does not hold them any more.
+    constexpr std::array<Replaced, 5> k_replaced = {
+        {{"in", "id"}, {"iw", "he"}, {"ji", "yi"}, {"jw", "jv"}, {"mo", "ro"}}};
+    for (const Replaced& replaced : k_replaced) {
+        if (std::equal(tag.language.begin(), tag.language.end(), replaced.former.begin(), replaced.former.end(),
+                       [](char c, char known) { return lowered(c) == known; }))
+            return replaced.code;
+    }
+    return {};
+}
+
 std::string canonicalSpelling(std::string_view code)
 {
     std::string result(code);
     const auto tag = parseLanguageTag(code);
     if (!tag)
         return result;
+    const std::string_view registered = registeredCode(code, tag->separator);
+    if (!registered.empty()) {
+        result = registered;
+        std::replace(result.begin(), result.end(), '-', tag->separator);
+        return result;
+    }
     std::transform(result.begin(), result.end(), result.begin(), lowered);
     const auto place = [&](std::string_view part) { return result.begin() + (part.data() - code.data()); };
     if (!tag->script.empty())

@@ -38,9 +38,45 @@ TEST(LanguageTag, IsRefusedWhenItIsNotWellFormed)
                              "x-",
                              "en-GB-variantthatistoolong",
                              "\xC3\xA9n",
-                             "i-klingon",
+                             "i-nobody",
+                             "i",
+                             "en_GB-oed",
+                             "zh-cmn-yue-nan-wuu",
                              "en-A-"})
         EXPECT_FALSE(parseLanguageTag(code)) << code;
+}
+
+TEST(LanguageTag, MayExtendALanguage)
+{
+    const auto tag = parseLanguageTag("zh-cmn-Hans-CN");
+    ASSERT_TRUE(tag);
+    EXPECT_EQ(tag->language, "zh");
+    EXPECT_EQ(tag->script, "Hans");
+    EXPECT_EQ(tag->region, "CN");
+    for (const char* code : {"zh-yue", "sgn-ase", "zh_yue_HK", "zh-min-nan", "no-bok"})
+        EXPECT_EQ(unknownPart(*parseLanguageTag(code)), "") << code;
+}
+
+TEST(LanguageTag, MayBeOlderThanItsSyntax)
+{
+    for (const char* code :
+         {"i-default", "i-klingon", "I_Klingon", "en-GB-oed", "sgn-BE-FR", "art-lojban", "zh-guoyu"}) {
+        const auto tag = parseLanguageTag(code);
+        ASSERT_TRUE(tag) << code;
+        EXPECT_EQ(unknownPart(*tag), "") << code;
+    }
+    EXPECT_EQ(canonicalSpelling("EN_gb_OED"), "en_GB_oed");
+    EXPECT_EQ(canonicalSpelling("I-KLINGON"), "i-klingon");
+}
+
+TEST(LanguageTag, HasASuccessorWhenItsLanguageIsAFormerCode)
+{
+    EXPECT_EQ(successor(*parseLanguageTag("iw-IL")), "he");
+    EXPECT_EQ(successor(*parseLanguageTag("IN")), "id");
+    EXPECT_EQ(successor(*parseLanguageTag("ji")), "yi");
+    EXPECT_EQ(unknownPart(*parseLanguageTag("iw")), "");
+    EXPECT_EQ(successor(*parseLanguageTag("he")), "");
+    EXPECT_EQ(successor(*parseLanguageTag("x-iw")), "");
 }
 
 TEST(LanguageTag, KnowsTheCodesOfTheStandards)
