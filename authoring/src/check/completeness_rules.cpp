@@ -23,8 +23,11 @@ void findMissingAttributes(const Checked& checked, Findings& findings)
             const SourceAttribute attribute = plainAttribute(element, known.name);
             if (!attribute)
                 findings.at(element, inQuotes(entry.name) + " has no " + inQuotes(known.name));
-            else if (attribute.value().empty())
-                findings.at(attribute, inQuotes(entry.name) + " has an empty " + inQuotes(known.name));
+            else if (isBlank(attribute.value()))
+                findings.at(attribute,
+                            inQuotes(entry.name) + " has " +
+                                (attribute.value().empty() ? "an empty " : "nothing but white space for a ") +
+                                inQuotes(known.name));
         }
     }
 }
@@ -104,7 +107,7 @@ void findEmptySections(const Checked& checked, Findings& findings)
 const std::vector<RuleRow>& completenessRules()
 {
     static const std::vector<RuleRow> rules = {
-        {{"missing-attribute", Severity::Error, "A required attribute is missing or empty",
+        {{"missing-attribute", Severity::Error, "A required attribute is missing, empty or blank",
           "Readers take a missing attribute for an empty one. A package without uuid or version cannot be installed or "
           "updated, a text without a language is found for none, a file without a path is no file.",
           ExampleFrame::Package, "<executableFiles><file/></executableFiles>",

@@ -104,6 +104,7 @@ const std::vector<RuleRow>& documentRules();
 const std::vector<RuleRow>& vocabularyRules();
 const std::vector<RuleRow>& completenessRules();
 const std::vector<RuleRow>& valueRules();
+const std::vector<RuleRow>& textRules();
 const std::vector<RuleRow>& sectionRules();
 const std::vector<RuleRow>& repetitionRules();
 const std::vector<RuleRow>& languageRules();

@@ -11,7 +11,7 @@ const std::vector<const RuleRow*>& allRules()
     static const std::vector<const RuleRow*> all = [] {
         std::vector<const RuleRow*> rows;
         for (const auto* group :
-             {&documentRules(), &vocabularyRules(), &completenessRules(), &valueRules(), &sectionRules(),
+             {&documentRules(), &vocabularyRules(), &completenessRules(), &valueRules(), &textRules(), &sectionRules(),
               &repetitionRules(), &languageRules(), &translationRules(), &fileRules()}) {
             for (const RuleRow& row : *group)
                 rows.push_back(&row);

@@ -96,7 +96,9 @@ const std::vector<RuleRow>& sectionRules()
           "Of two natures, engines or locales the later one counts, and a second userRequestable changes nothing. The "
           "fix "
           "removes what does not count.",
-          ExampleFrame::Behavior, "<userRequestable/><userRequestable/>", "<userRequestable/>", ""},
+          ExampleFrame::Contents,
+          "<behaviorContent path=\"wave\"><nature>solitary</nature><nature>interactive</nature></behaviorContent>",
+          "<behaviorContent path=\"wave\"><nature>interactive</nature></behaviorContent>", ""},
          findRepeatedElements},
         {{"repeated-permission", Severity::Warning, "A permission stands twice",
           "A behavior has a permission or has it not. The fix removes the second one.", ExampleFrame::Behavior,

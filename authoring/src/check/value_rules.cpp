@@ -2,6 +2,7 @@
 #include "check/findings.hpp"
 #include "check/version.hpp"
 #include "check/wording.hpp"
+#include "edit/reading.hpp"
 #include "edits.hpp"
 
 #include <zupackage/behavior_info.hpp>
@@ -13,6 +14,7 @@ namespace zupackage::check {
 
 namespace {
 
+using edit::readText;
 using zu::BehaviorInfo;
 using zu::authoring::AttributeEntry;
 using zu::authoring::ExampleFrame;
@@ -121,7 +123,7 @@ void findUnknownNatures(const Checked& checked, Findings& findings)
 {
     const std::vector<std::string_view> known = {BehaviorInfo::natureInteractive(), BehaviorInfo::natureSolitary()};
     for (const SourceNode nature : checked.outline.elements("/package/contents/behaviorContent/nature")) {
-        const std::string text = nature.textContent();
+        const std::string text = readText(nature);
         // Padding and emptiness have rules of their own.
         const std::string_view word = trimmed(text);
         if (word.empty() || std::find(known.begin(), known.end(), word) != known.end())
@@ -177,40 +179,18 @@ void findUnreachableSentences(const Checked& checked, Findings& findings)
     }
 }
 
-bool isPadded(std::string_view text) { return !isBlank(text) && trimmed(text).size() != text.size(); }
-
-void findPaddedTexts(const Checked& checked, Findings& findings)
+void findUnaskedBehaviors(const Checked& checked, Findings& findings)
 {
-    for (const SourceNode element : checked.outline.elements()) {
-        const ElementEntry& entry = *checked.outline.entry(element);
-        for (const AttributeEntry& known : entry.attributes) {
-            const SourceAttribute attribute = plainAttribute(element, known.name);
-            // Spaces around a flag make it another flag, which has a rule of its own.
-            if (attribute && known.kind != ValueKind::Flag && isPadded(attribute.value()))
-                findings.at(attribute, "white space around " + inQuotes(known.name) + " is part of it")
-                    .unsafeFix("remove it", {authoring::replacement(attribute, trimmed(attribute.value()))});
-        }
-        if (entry.text == ValueKind::None)
-            continue;
-        const std::string text = element.textContent();
-        if (!isPadded(text))
-            continue;
-        Finding& finding =
-            findings.atContent(element, "white space around the text of " + inQuotes(entry.name) + " is part of it");
-        if (!element.firstChild().nextSibling() && element.firstChild().kind() == zu::authoring::NodeKind::Text)
-            finding.unsafeFix("remove it", {{element.contentRange(), authoring::escapedText(trimmed(text))}});
-    }
-}
-
-void findBlankTexts(const Checked& checked, Findings& findings)
-{
-    for (const SourceNode element : checked.outline.elements()) {
-        const ElementEntry& entry = *checked.outline.entry(element);
-        if (entry.text == ValueKind::None)
-            continue;
-        const std::string text = element.textContent();
-        if (!text.empty() && isBlank(text))
-            findings.atContent(element, inQuotes(entry.name) + " holds white space alone, which readers drop");
+    // The sentences may stand behind an error that ended the document.
+    if (!checked.document.isComplete())
+        return;
+    for (const SourceNode behavior : checked.outline.elements(k_behavior)) {
+        const auto requestable = childrenNamed(behavior, "userRequestable");
+        const auto sentences = childrenNamed(behavior, "triggerSentences");
+        const bool hasSentence = std::any_of(sentences.begin(), sentences.end(),
+                                             [](SourceNode list) { return !childrenNamed(list, "sentence").empty(); });
+        if (!requestable.empty() && !hasSentence)
+            findings.at(requestable.front(), "people may ask for the behavior, but no sentence starts it");
     }
 }
 
@@ -221,7 +201,7 @@ const std::vector<RuleRow>& valueRules()
     static const std::vector<RuleRow> rules = {
         {{"invalid-flag", Severity::Error, "A flag that is not exactly true, 1, false or 0",
           "Readers take any other text for false, \"TRUE\" and \" true \" included. The fix takes the white space away "
-          "from a flag, so that the manifest reads as it was meant.",
+          "from a flag, so that the manifest reads as it was meant; that of a word writes the flag that it means.",
           ExampleFrame::Package,
           "<services><service name=\"clock\" execStart=\"bin/clock\" autorun=\"TRUE\"/></services>",
           "<services><service name=\"clock\" execStart=\"bin/clock\" autorun=\"true\"/></services>", ""},
@@ -244,34 +224,34 @@ const std::vector<RuleRow>& valueRules()
           "<requirements><morvoRequirement minVersion=\"2.9\" maxVersion=\"2.10\"/></requirements>", ""},
          findReversedRanges},
         {{"unknown-nature", Severity::Warning, "A nature that no robot knows",
-          "Readers keep any text; robots look for \"interactive\" and \"solitary\".", ExampleFrame::Contents,
-          "<behaviorContent path=\"wave\"><nature>interactiv</nature></behaviorContent>",
+          "Readers keep any text; robots look for \"interactive\" and \"solitary\". The fix writes the one that "
+          "was meant.",
+          ExampleFrame::Contents, "<behaviorContent path=\"wave\"><nature>interactiv</nature></behaviorContent>",
           "<behaviorContent path=\"wave\"><nature>interactive</nature></behaviorContent>", ""},
          findUnknownNatures},
         {{"unknown-permission", Severity::Error, "A permission that no robot knows",
-          "Readers drop it without a word, and the behavior runs without it.", ExampleFrame::Behavior,
-          "<permissions><canFly/></permissions>", "<permissions><canStandUp/></permissions>", ""},
+          "Readers drop it without a word, and the behavior runs without it. The fix writes the one that was meant.",
+          ExampleFrame::Behavior, "<permissions><canFly/></permissions>", "<permissions><canStandUp/></permissions>",
+          ""},
          findUnknownPermissions},
         {{"user-requestable-text", Severity::Warning, "A text in userRequestable",
-          "The element itself is the flag: with \"false\" in it the behavior is user-requestable all the same.",
-          ExampleFrame::Behavior, "<userRequestable>false</userRequestable>", "<userRequestable/>", ""},
+          "The element itself is the flag: with \"false\" in it the behavior is user-requestable all the same. The "
+          "fix takes such a text at its word and removes the element; another text goes alone.",
+          ExampleFrame::Behavior,
+          "<userRequestable>false</userRequestable>"
+          "<triggerSentences><sentence lang=\"en\">Wave</sentence></triggerSentences>",
+          "<userRequestable/><triggerSentences><sentence lang=\"en\">Wave</sentence></triggerSentences>", ""},
          findTextsInUserRequestable},
         {{"unreachable-sentences", Severity::Warning, "Trigger sentences of a behavior that nobody can request",
           "Only user-requestable behaviors listen to their sentences.", ExampleFrame::Behavior,
           "<triggerSentences><sentence lang=\"en\">Wave</sentence></triggerSentences>",
           "<userRequestable/><triggerSentences><sentence lang=\"en\">Wave</sentence></triggerSentences>", ""},
          findUnreachableSentences},
-        {{"padded-text", Severity::Warning, "White space around a text",
-          "Readers keep it: \" fr\" is another language than \"fr\", and a name with a line end in it looks odd in a "
-          "list.",
-          ExampleFrame::Package, "<descriptions><description lang=\"en\"> Says hello</description></descriptions>",
-          "<descriptions><description lang=\"en\">Says hello</description></descriptions>", ""},
-         findPaddedTexts},
-        {{"blank-text", Severity::Warning, "A text of white space alone",
-          "Readers drop it, so that the entry is an empty one.", ExampleFrame::Package,
-          "<descriptions><description lang=\"en\"> </description></descriptions>",
-          "<descriptions><description lang=\"en\">Says hello</description></descriptions>", ""},
-         findBlankTexts},
+        {{"unasked-behavior", Severity::Info, "A behavior that people may ask for without a sentence to do so",
+          "Nobody starts it by speaking in any language; what is left are menus that list it by its name.",
+          ExampleFrame::Behavior, "<userRequestable/>",
+          "<userRequestable/><triggerSentences><sentence lang=\"en\">Wave</sentence></triggerSentences>", ""},
+         findUnaskedBehaviors},
     };
     return rules;
 }

@@ -106,15 +106,4 @@ std::string didYouMean(std::string_view nearest)
     return nearest.empty() ? std::string() : "; did you mean " + inQuotes(nearest) + "?";
 }
 
-bool isBlank(std::string_view text) { return trimmed(text).empty(); }
-
-std::string_view trimmed(std::string_view text)
-{
-    constexpr std::string_view k_white = " \t\r\n";
-    const std::size_t first = text.find_first_not_of(k_white);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(k_white) - first + 1);
-}
-
 } // namespace zupackage::check

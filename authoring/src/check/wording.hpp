@@ -1,10 +1,15 @@
 #pragma once
 
+#include "white_space.hpp"
+
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace zupackage::check {
+
+using authoring::isBlank;
+using authoring::trimmed;
 
 /// A text of the document as messages show it: in double quotes, at most 60 characters of it, without what could steer
 /// a terminal (control characters and those that turn the direction of writing stand as U+FFFD).
@@ -18,11 +23,5 @@ std::string_view nearest(std::string_view text, const std::vector<std::string_vi
 
 /// "; did you mean "nearest"?"; empty when there is none.
 std::string didYouMean(std::string_view nearest);
-
-/// Whether there is nothing but the white space of XML.
-bool isBlank(std::string_view text);
-
-/// The text without the white space of XML around it.
-std::string_view trimmed(std::string_view text);
 
 } // namespace zupackage::check

@@ -3,8 +3,6 @@
 #include "edit/tokens.hpp"
 #include "source_tree.hpp"
 
-#include <QtCore/QString>
-
 #include <algorithm>
 
 namespace zupackage::edit {
@@ -75,18 +73,6 @@ Keeping keepingOfRepeated(const ElementEntry& entry)
 }
 
 } // namespace
-
-bool isBlank(std::string_view text)
-{
-    const auto isBlankByte = [](char c) { return c == ' ' || (c >= '\t' && c <= '\r'); };
-    const auto other = std::find_if_not(text.begin(), text.end(), isBlankByte);
-    if (other == text.end())
-        return true;
-    if (static_cast<unsigned char>(*other) < 0x80)
-        return false;
-    const QString characters = QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-    return std::all_of(characters.begin(), characters.end(), [](QChar c) { return c.isSpace(); });
-}
 
 bool counts(SourceNode node) { return node.kind() != NodeKind::Text || !isBlank(node.value()); }
 

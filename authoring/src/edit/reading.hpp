@@ -1,5 +1,7 @@
 #pragma once
 
+#include "white_space.hpp"
+
 #include <zupackage/authoring/source_node.hpp>
 #include <zupackage/authoring/vocabulary.hpp>
 
@@ -14,8 +16,7 @@ using zu::authoring::ElementEntry;
 using zu::authoring::SourceAttribute;
 using zu::authoring::SourceNode;
 
-/// Whether the reader drops it as white space, which it does with loose texts, and with none in CDATA sections.
-bool isBlank(std::string_view text);
+using authoring::isBlank;
 
 /// Whether the reader takes a node in a list for an entry: all but white space is.
 bool counts(SourceNode node);

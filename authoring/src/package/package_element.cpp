@@ -1,6 +1,7 @@
 #include "package/package_element.hpp"
 
 #include "edits.hpp"
+#include "white_space.hpp"
 
 #include <QtCore/QXmlStreamReader>
 
@@ -39,12 +40,6 @@ PackageElement elementFrom(QXmlStreamReader& reader, const ElementEntry& entry)
             element.children.push_back(std::move(child));
     }
     return element;
-}
-
-bool isBlank(const std::string& text)
-{
-    const QString characters = QString::fromStdString(text);
-    return std::all_of(characters.begin(), characters.end(), [](QChar c) { return c.isSpace(); });
 }
 
 /// The text such that the package library's reader, which drops texts of white space alone, reads it.

@@ -143,6 +143,53 @@ TEST(Check, SaysWhatRobotsMakeOfAnIllFormedDocument)
     }
 }
 
+TEST(Check, TellsTheTextsThatTheReaderDropsFromThoseThatItKeeps)
+{
+    const std::string kept = "\"description\" holds white space alone";
+    const std::string dropped = kept + ", which readers drop";
+    for (const auto& [text, message] : std::vector<std::pair<std::string, std::string>>{{" ", dropped},
+                                                                                        {"&#xA0;", dropped},
+                                                                                        {"&#x3000;", dropped},
+                                                                                        {" <!-- c -->&#xA0;", dropped},
+                                                                                        {"<![CDATA[ ]]>", kept},
+                                                                                        {" <![CDATA[ ]]> ", kept}}) {
+        const auto findings = check(SourceDocument::parse("<package><descriptions><description lang='en'>" + text +
+                                                          "</description></descriptions></package>"))
+                                  .findings;
+        const auto found = std::find_if(findings.begin(), findings.end(),
+                                        [](const Diagnostic& finding) { return finding.rule == "blank-text"; });
+        ASSERT_NE(found, findings.end()) << text;
+        EXPECT_EQ(found->message, message);
+    }
+}
+
+TEST(Check, TakesWhiteSpaceBetweenEntriesForNone)
+{
+    const std::string names = "<package><names>&#x3000;<name lang='en'>N</name>&#xA0;</names></package>";
+    EXPECT_THAT(idsOf(check(SourceDocument::parse(names)).findings), Not(Contains("counted-node")));
+    const std::string section = "<package><names><![CDATA[ ]]><name lang='en'>N</name></names></package>";
+    EXPECT_THAT(idsOf(check(SourceDocument::parse(section)).findings), Contains("counted-node"));
+}
+
+TEST(Check, FindsAttributesOfWhiteSpaceAlone)
+{
+    for (const char* path :
+         {"/package/@uuid", "/package/@author", "/package/names/name[1]/@lang",
+          "/package/contents/behaviorContent/@path", "/package/contents/dialogContent/@topicName",
+          "/package/contents/dialogContent/topic/@language", "/package/requirements/robotRequirement/@model"}) {
+        const SourceDocument document = SourceDocument::parse(
+            "<package uuid='&#9;' author=' '><names><name lang='&#xA0;'>N</name></names>"
+            "<contents><behaviorContent path=' '/><dialogContent topicName=' '><topic language=' ' path=' '/>"
+            "</dialogContent></contents><requirements><robotRequirement model=' '/></requirements></package>");
+        const auto findings = check(document).findings;
+        const SourceAttribute attribute = document.findAttribute(path);
+        EXPECT_TRUE(std::any_of(findings.begin(), findings.end(), [&](const Diagnostic& finding) {
+            return (finding.rule == "missing-attribute" || finding.rule == "blank-text") &&
+                   finding.range.path == attribute.path();
+        })) << path;
+    }
+}
+
 TEST(Check, TakesAnyBytes)
 {
     for (const std::string& bytes :
