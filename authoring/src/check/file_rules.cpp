@@ -32,14 +32,42 @@ void forEachPath(const Outline& outline, Visit visit)
     }
 }
 
+/// The first word of a command line.
+std::string_view programOf(SourceAttribute command)
+{
+    const std::string_view line = trimmed(command.value());
+    return line.substr(0, line.find(' '));
+}
+
+/// Calls `visit(attribute, program)` for each service that starts a file of the package. An absolute path and a name
+/// without a folder may be programs of the robot.
+template <typename Visit>
+void forEachProgram(const Outline& outline, Visit visit)
+{
+    for (const SourceNode service : outline.elements("/package/services/service")) {
+        const SourceAttribute command = plainAttribute(service, "execStart");
+        const std::string_view program = programOf(command);
+        if (program.find('/') != std::string_view::npos && program.front() != '/')
+            visit(command, program);
+    }
+}
+
+/// Calls `visit(attribute, path)` for all that the document names in the package.
+template <typename Visit>
+void forEachFile(const Outline& outline, Visit visit)
+{
+    forEachPath(outline, [&](SourceAttribute path) { visit(path, path.value()); });
+    forEachProgram(outline, visit);
+}
+
 void findMissingFiles(const Checked& checked, Findings& findings)
 {
     if (!checked.folder)
         return;
     const PackageFolder& folder = *checked.folder;
-    forEachPath(checked.outline, [&](SourceAttribute path) {
-        if (!findings.isFull() && folder.find(path.value()) == FileKind::Missing)
-            findings.at(path, "the package has no " + inQuotes(path.value()));
+    forEachFile(checked.outline, [&](SourceAttribute attribute, std::string_view path) {
+        if (!findings.isFull() && folder.find(path) == FileKind::Missing)
+            findings.at(attribute, "the package has no " + inQuotes(path));
     });
 }
 
@@ -48,9 +76,9 @@ void findFilesOutside(const Checked& checked, Findings& findings)
     if (!checked.folder)
         return;
     const PackageFolder& folder = *checked.folder;
-    forEachPath(checked.outline, [&](SourceAttribute path) {
-        if (!findings.isFull() && folder.find(path.value()) == FileKind::Outside)
-            findings.at(path, inQuotes(path.value()) + " leads out of the package");
+    forEachFile(checked.outline, [&](SourceAttribute attribute, std::string_view path) {
+        if (!findings.isFull() && folder.find(path) == FileKind::Outside)
+            findings.at(attribute, inQuotes(path) + " leads out of the package");
     });
 }
 
@@ -58,13 +86,16 @@ void findIrregularFiles(const Checked& checked, Findings& findings)
 {
     if (!checked.folder)
         return;
-    const PackageFolder& folder = *checked.folder;
+    const auto report = [&](SourceAttribute attribute, std::string_view path) {
+        const FileKind kind = checked.folder->find(path);
+        if (!path.empty() && (kind == FileKind::Folder || kind == FileKind::Special))
+            findings.at(attribute, inQuotes(path) + " is no file that could be made executable");
+    };
     for (const SourceNode file : checked.outline.elements(k_executable)) {
         const SourceAttribute path = plainAttribute(file, "path");
-        const FileKind kind = folder.find(path.value());
-        if (!path.value().empty() && (kind == FileKind::Folder || kind == FileKind::Special))
-            findings.at(path, inQuotes(path.value()) + " is no file that could be made executable");
+        report(path, path.value());
     }
+    forEachProgram(checked.outline, report);
 }
 
 void findFilesNamedTwice(const Checked& checked, Findings& findings)
@@ -109,11 +140,11 @@ void reportUnlisted(const Checked& checked, Findings& findings, std::string_view
     }
     const PackageFolder& folder = *checked.folder;
     for (const Siblings& siblings : places) {
-        // Beside a folder of the package itself there is everything else.
-        if (siblings.folder.empty())
+        // Beside a file without a kind of its own, in the package itself, there is everything else.
+        if (siblings.folder.empty() && siblings.extension.empty())
             continue;
         for (const std::string& path : folder.list(siblings, kind)) {
-            if (listed.count(path) == 0)
+            if (listed.count(path) == 0 && path != "manifest.xml")
                 findings.at(checked.document.root(), "no " + std::string(what) + " names " + inQuotes(path));
         }
     }
@@ -137,7 +168,7 @@ void findServicesNotExecutable(const Checked& checked, Findings& findings)
     const PackageFolder& folder = *checked.folder;
     for (const SourceNode service : checked.outline.elements("/package/services/service")) {
         const SourceAttribute command = plainAttribute(service, "execStart");
-        const std::string_view program = command.value().substr(0, command.value().find(' '));
+        const std::string_view program = programOf(command);
         if (!program.empty() && folder.find(program) == FileKind::Regular &&
             executables.count(normalPath(program)) == 0)
             findings.at(command, inQuotes(program) + " is not one of the executable files");
@@ -150,12 +181,14 @@ const std::vector<RuleRow>& fileRules()
 {
     static const std::vector<RuleRow> rules = {
         {{"missing-file", Severity::Error, "A file or folder that the package does not have",
-          "The package installs, and fails when somebody asks for the behavior, the topic or the pages.",
+          "The package installs, and fails when somebody asks for the behavior, the topic or the pages, or when the "
+          "service is to start. Of the command line of a service its first word is meant; an absolute path and a name "
+          "without a folder may be programs of the robot and are left alone.",
           ExampleFrame::Contents, "<webContent path=\"wbe\"/>", "<webContent path=\"web\"/>", "web/index.html"},
          findMissingFiles},
         {{"file-outside-package", Severity::Error, "A path that leads out of the package",
           "Absolute paths, \"..\" and links lead to files that are not installed with the package, and may belong to "
-          "somebody else.",
+          "somebody else. An absolute path that a service starts may be a program of the robot and is left alone.",
           ExampleFrame::Contents, "<webContent path=\"../web\"/>", "<webContent path=\"web\"/>", "web/index.html"},
          findFilesOutside},
         {{"not-a-regular-file", Severity::Error, "An executable file that is a folder or a device",
@@ -166,18 +199,21 @@ const std::vector<RuleRow>& fileRules()
         {{"file-named-twice", Severity::Warning, "A file that two entries name",
           "A topic in two languages is in one of them; a path in two spellings is one file.", ExampleFrame::Contents,
           "<dialogContent topicName=\"food\"><topic language=\"en\" path=\"food.talk\"/>"
-          "<topic language=\"fr\" path=\"food.talk\"/></dialogContent>",
+          "<topic language=\"en_GB\" path=\"food.talk\"/></dialogContent>",
           "<dialogContent topicName=\"food\"><topic language=\"en\" path=\"food.talk\"/></dialogContent>", "food.talk"},
          findFilesNamedTwice},
         {{"unlisted-behavior", Severity::Info, "A folder beside the behaviors that is none",
-          "Nobody can start it, and it is installed all the same.", ExampleFrame::Contents,
-          "<behaviorContent path=\"behaviors/bow\"><nature>solitary</nature></behaviorContent>",
+          "Nobody can start it, and it is installed all the same. Beside a behavior that lies in the package itself "
+          "nothing is looked for: pages, topics and programs have their folders there.",
+          ExampleFrame::Contents, "<behaviorContent path=\"behaviors/bow\"><nature>solitary</nature></behaviorContent>",
           "<behaviorContent path=\"behaviors/bow\"><nature>solitary</nature></behaviorContent>"
           "<behaviorContent path=\"behaviors/wave\"><nature>solitary</nature></behaviorContent>",
           "behaviors/bow/main.steps behaviors/wave/main.steps"},
          findUnlistedBehaviors},
         {{"unlisted-topic", Severity::Info, "A file beside the topics that is none",
-          "The robot does not talk about it, and it is installed all the same.", ExampleFrame::Contents,
+          "The robot does not talk about it, and it is installed all the same. Files that end as the topics do are "
+          "looked at.",
+          ExampleFrame::Contents,
           "<dialogContent topicName=\"food\"><topic language=\"en\" path=\"topics/food.talk\"/></dialogContent>",
           "<dialogContent topicName=\"food\"><topic language=\"en\" path=\"topics/food.talk\"/></dialogContent>"
           "<dialogContent topicName=\"drinks\"><topic language=\"en\" path=\"topics/drinks.talk\"/></dialogContent>",

@@ -68,7 +68,7 @@ std::vector<std::string> PackageFolder::list(const Siblings& siblings, FileKind 
     fs::directory_iterator entry(fs::path(m_root) / siblings.folder, error);
     for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
         const std::string name = entry->path().filename().string();
-        std::string path = siblings.folder + "/" + name;
+        std::string path = siblings.folder.empty() ? name : siblings.folder + "/" + name;
         if (name.front() != '.' && (siblings.extension.empty() || extensionOf(name) == siblings.extension) &&
             find(path) == kind)
             paths.push_back(std::move(path));

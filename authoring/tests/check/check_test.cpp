@@ -205,6 +205,53 @@ TEST(Check, FindsNothingInAnEmptyFolderOfNoPackage)
                 testing::Contains("missing-file").Times(2));
 }
 
+TEST(Check, LooksForTheProgramsOfServices)
+{
+    const test::TemporaryFolder folder;
+    folder.file("clock", "");
+    CheckOptions options;
+    options.root = folder.path().string();
+    for (const auto& [command, id] :
+         std::vector<std::pair<std::string, std::string>>{{"bin/missing --x", "missing-file"},
+                                                          {"../../etc/x", "file-outside-package"},
+                                                          {" ./missing", "missing-file"},
+                                                          {"./", "not-a-regular-file"},
+                                                          {"./clock --x", "service-not-executable"},
+                                                          {"clock --x", "service-not-executable"},
+                                                          {"/usr/bin/env sh", ""},
+                                                          {"python3 main.py", ""}}) {
+        std::vector<std::string> ids =
+            idsOf(check(SourceDocument::parse("<package uuid='u' version='1'><names><name lang='en'>N</name></names>"
+                                              "<descriptionLanguages><language>en</language></descriptionLanguages>"
+                                              "<contents><webContent path='.'/></contents>"
+                                              "<services><service name='s' execStart='" +
+                                              command + "'/></services></package>"),
+                        options)
+                      .findings);
+        ids.erase(std::remove(ids.begin(), ids.end(), "padded-text"), ids.end());
+        EXPECT_EQ(ids, id.empty() ? std::vector<std::string>() : std::vector<std::string>{id}) << command;
+    }
+}
+
+TEST(Check, FindsTopicsBesideThoseInThePackageItself)
+{
+    const test::TemporaryFolder folder;
+    for (const char* file : {"food.talk", "drinks.talk", "manifest.xml", "notes.txt"})
+        folder.file(file, "");
+    CheckOptions options;
+    options.root = folder.path().string();
+    std::vector<std::string> messages;
+    for (const Diagnostic& finding :
+         check(SourceDocument::parse("<package><contents><dialogContent topicName='food'>"
+                                     "<topic language='en' path='food.talk'/></dialogContent></contents></package>"),
+               options)
+             .findings) {
+        if (finding.rule == "unlisted-topic")
+            messages.push_back(finding.message);
+    }
+    EXPECT_THAT(messages, ElementsAre("no topic names \"drinks.talk\""));
+}
+
 TEST(Check, OfTheExamplesFindsTheTextsThatTrimmingDrops)
 {
     std::vector<std::string> ids;
