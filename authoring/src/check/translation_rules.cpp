@@ -1,5 +1,6 @@
 #include "check/findings.hpp"
 #include "check/wording.hpp"
+#include "edit/reading.hpp"
 
 #include <array>
 #include <set>
@@ -18,7 +19,7 @@ Languages declared(const Outline& outline, std::string_view list)
 {
     Languages languages;
     for (const SourceNode language : outline.elements("/package/" + std::string(list) + "/language"))
-        languages.insert(language.textContent());
+        languages.insert(edit::readText(language));
     return languages;
 }
 
@@ -106,13 +107,13 @@ bool isKept(std::string_view code, const Languages& languages)
     return false;
 }
 
-/// Calls `visit(attribute, declaring list, whether trimming keeps it)` for the languages that are not declared as they
-/// stand.
-template <typename Visit>
-void forEachUndeclared(const Outline& outline, Visit visit)
+/// Calls `visit(attribute, declaring list, whether one of its languages is a prefix)` for the languages of entries that
+/// are not declared as they stand.
+template <typename Table, typename Visit>
+void forEachUndeclared(const Outline& outline, const Table& table, Visit visit)
 {
     constexpr std::size_t k_longestCode = 64; // longer ones are reported as malformed
-    for (const Translated& translated : k_trimmed) {
+    for (const Translated& translated : table) {
         const Languages languages = declared(outline, translated.declaredBy);
         if (languages.empty())
             continue;
@@ -128,19 +129,30 @@ void forEachUndeclared(const Outline& outline, Visit visit)
 
 void findTrimmedTexts(const Checked& checked, Findings& findings)
 {
-    forEachUndeclared(checked.outline, [&](SourceAttribute language, std::string_view list, bool isKeptByPrefix) {
-        if (!isKeptByPrefix)
-            findings.at(language, inQuotes(language.value()) + " is not one of the " + std::string(list) +
-                                      ", so that trimming the package drops the text");
-    });
+    forEachUndeclared(
+        checked.outline, k_trimmed, [&](SourceAttribute language, std::string_view list, bool isKeptByPrefix) {
+            if (!isKeptByPrefix)
+                findings.at(language, inQuotes(language.value()) + " is not one of the " + std::string(list) +
+                                          ", so that trimming the package drops the text");
+        });
 }
 
 void findUndeclaredLanguages(const Checked& checked, Findings& findings)
 {
-    forEachUndeclared(checked.outline, [&](SourceAttribute language, std::string_view list, bool isKeptByPrefix) {
-        if (isKeptByPrefix)
-            findings.at(language, inQuotes(language.value()) + " is not one of the " + std::string(list) +
-                                      "; trimming keeps it for a shorter one");
+    forEachUndeclared(checked.outline, k_trimmed,
+                      [&](SourceAttribute language, std::string_view list, bool isKeptByPrefix) {
+                          if (isKeptByPrefix)
+                              findings.at(language, inQuotes(language.value()) + " is not one of the " +
+                                                        std::string(list) + "; trimming keeps it for a shorter one");
+                      });
+}
+
+void findUndeclaredTopics(const Checked& checked, Findings& findings)
+{
+    forEachUndeclared(checked.outline, k_topics, [&](SourceAttribute language, std::string_view list, bool isPrefixed) {
+        if (!isPrefixed)
+            findings.at(language,
+                        "a topic in " + inQuotes(language.value()) + ", which is not one of the " + std::string(list));
     });
 }
 
@@ -196,7 +208,8 @@ const std::vector<RuleRow>& translationRules()
           ""},
          findMissingDescriptions},
         {{"missing-sentences", Severity::Warning, "A supported language in which no sentence starts the behavior",
-          "The robot listens in the language that it is set to. Behaviors without any trigger sentence are left alone.",
+          "The robot listens in the language that it is set to. A behavior without any trigger sentence is found as an "
+          "unasked one.",
           ExampleFrame::Document,
           "<package uuid=\"org.example.hello\" version=\"1.0\">\n"
           "  <names><name lang=\"en\">Hello</name></names>\n"
@@ -230,7 +243,7 @@ const std::vector<RuleRow>& translationRules()
           "The robot cannot talk about the topic when it is set to that language. Dialogs without any topic are an "
           "empty section.",
           ExampleFrame::Contents,
-          "<dialogContent topicName=\"food\"><topic language=\"fr\" path=\"food.fr.talk\"/></dialogContent>",
+          "<dialogContent topicName=\"food\"><topic language=\"en_GB\" path=\"food.en.talk\"/></dialogContent>",
           "<dialogContent topicName=\"food\"><topic language=\"en\" path=\"food.en.talk\"/></dialogContent>", ""},
          findMissingTopics},
         {{"trimmed-text", Severity::Warning, "A text that trimming to the declared languages drops",
@@ -249,6 +262,14 @@ const std::vector<RuleRow>& translationRules()
           "</descriptions>",
           "<descriptions><description lang=\"en\">Greets</description></descriptions>", ""},
          findUndeclaredLanguages},
+        {{"undeclared-topic", Severity::Warning, "A topic in a language that the package does not support",
+          "The robot never talks about it in that language: stores and settings offer the supportedLanguages alone. "
+          "Trimming keeps it, so that it is installed for nobody.",
+          ExampleFrame::Contents,
+          "<dialogContent topicName=\"food\"><topic language=\"en\" path=\"food.en.talk\"/>"
+          "<topic language=\"fr\" path=\"food.fr.talk\"/></dialogContent>",
+          "<dialogContent topicName=\"food\"><topic language=\"en\" path=\"food.en.talk\"/></dialogContent>", ""},
+         findUndeclaredTopics},
     };
     return rules;
 }

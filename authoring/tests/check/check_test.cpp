@@ -252,6 +252,38 @@ TEST(Check, FindsTopicsBesideThoseInThePackageItself)
     EXPECT_THAT(messages, ElementsAre("no topic names \"drinks.talk\""));
 }
 
+TEST(Check, FindsExactlyTheTextsThatTrimmingDrops)
+{
+    const std::vector<std::pair<std::string, std::string>> places = {
+        {"<names><name lang='fr'>N</name></names>", ""},
+        {"<descriptions><description lang='fr'>D</description></descriptions>", ""},
+        {"", "<behaviorContent path='b'><names><name lang='fr'>N</name></names></behaviorContent>"},
+        {"", "<behaviorContent path='b'><descriptions><description lang='fr'>D</description></descriptions>"
+             "</behaviorContent>"},
+        {"", "<behaviorContent path='b'><tags><tag lang='fr'>T</tag></tags></behaviorContent>"},
+        {"", "<behaviorContent path='b'><triggerSentences><sentence lang='fr'>S</sentence></triggerSentences>"
+             "</behaviorContent>"},
+        {"", "<behaviorContent path='b'><loadingResponses><sentence lang='fr'>S</sentence></loadingResponses>"
+             "</behaviorContent>"},
+        {"", "<dialogContent topicName='t'><topic language='fr' path='t.talk'/></dialogContent>"},
+        {"", "<languageContent path='l'><names><name lang='fr'>N</name></names></languageContent>"}};
+    for (const auto& [sections, contents] : places) {
+        for (const std::string declared : {"en", "f", "fr", "fr_CA"}) {
+            const std::string bytes = "<package><supportedLanguages><language>" + declared +
+                                      "</language></supportedLanguages><descriptionLanguages><language>" + declared +
+                                      "</language></descriptionLanguages>" + sections + "<contents>" + contents +
+                                      "</contents></package>";
+            PackageInfo package;
+            ASSERT_TRUE(readManifest(bytes, package));
+            const std::string before = package.saveToManifestContent();
+            package.trimExtraInfo();
+            const std::vector<std::string> ids = idsOf(check(SourceDocument::parse(bytes)).findings);
+            EXPECT_EQ(package.saveToManifestContent() != before, testing::Value(ids, Contains("trimmed-text")))
+                << bytes;
+        }
+    }
+}
+
 TEST(Check, OfTheExamplesFindsTheTextsThatTrimmingDrops)
 {
     std::vector<std::string> ids;
