@@ -1,6 +1,7 @@
 #include "check/findings.hpp"
 #include "check/repetition.hpp"
 #include "check/wording.hpp"
+#include "edit/reading.hpp"
 
 #include <map>
 #include <string>
@@ -24,7 +25,7 @@ struct Repetition
 
 std::string keyOf(SourceNode element, std::string_view key)
 {
-    return key == "." ? element.textContent() : std::string(plainValue(element, key));
+    return key == "." ? edit::readText(element) : std::string(plainValue(element, key));
 }
 
 /// Reports the elements of an entry that have one parent and one key. Empty keys have a rule of their own.
@@ -122,7 +123,7 @@ void findRepeatedTexts(const Checked& checked, Findings& findings)
                              List{"/package/contents/behaviorContent/autonomous/condition", "purpose"}}) {
         std::map<std::pair<std::size_t, std::string>, SourceNode> seen;
         for (const SourceNode element : checked.outline.elements(list.path)) {
-            const std::string text = element.textContent();
+            const std::string text = edit::readText(element);
             if (isBlank(text))
                 continue;
             std::string key = std::string(plainValue(element, list.key)) + '\0' + text;
@@ -157,7 +158,8 @@ const std::vector<RuleRow>& repetitionRules()
           ""},
          findRepeatedVariables},
         {{"repeated-service", Severity::Warning, "Two services of one name",
-          "The package has both, and who names one of them gets either.", ExampleFrame::Package,
+          "The package has both, and who names one of them gets either. The fix drops the second one.",
+          ExampleFrame::Package,
           "<services><service name=\"clock\" execStart=\"bin/clock\"/><service name=\"clock\" execStart=\"bin/bell\"/>"
           "</services>",
           "<services><service name=\"clock\" execStart=\"bin/clock\"/><service name=\"bell\" execStart=\"bin/bell\"/>"
@@ -165,7 +167,8 @@ const std::vector<RuleRow>& repetitionRules()
           ""},
          findRepeatedServices},
         {{"repeated-behavior", Severity::Error, "Two behaviors of one path",
-          "The package has both, and people see the behavior twice.", ExampleFrame::Contents,
+          "The package has both, and people see the behavior twice. The fix drops the second one.",
+          ExampleFrame::Contents,
           "<behaviorContent path=\"wave\"><nature>solitary</nature></behaviorContent>"
           "<behaviorContent path=\"wave\"><nature>interactive</nature></behaviorContent>",
           "<behaviorContent path=\"wave\"><nature>solitary</nature></behaviorContent>"
@@ -173,25 +176,28 @@ const std::vector<RuleRow>& repetitionRules()
           ""},
          findRepeatedBehaviors},
         {{"repeated-dialog-topic", Severity::Error, "Two dialogs of one topic name",
-          "The dialog engine knows topics by their names and takes one of them.", ExampleFrame::Contents,
+          "The dialog engine knows topics by their names and takes one of them. The fix drops the second one.",
+          ExampleFrame::Contents,
           "<dialogContent topicName=\"food\"><topic language=\"en\" path=\"a.talk\"/></dialogContent>"
           "<dialogContent topicName=\"food\"><topic language=\"en\" path=\"b.talk\"/></dialogContent>",
           "<dialogContent topicName=\"food\"><topic language=\"en\" path=\"a.talk\"/></dialogContent>"
           "<dialogContent topicName=\"drinks\"><topic language=\"en\" path=\"b.talk\"/></dialogContent>",
           ""},
          findRepeatedTopics},
-        {{"repeated-requirement", Severity::Warning, "A requirement stands twice", "The second one changes nothing.",
-          ExampleFrame::Package,
+        {{"repeated-requirement", Severity::Warning, "A requirement stands twice",
+          "The second one changes nothing. The fix drops it.", ExampleFrame::Package,
           "<requirements><morvoRequirement minVersion=\"2.1\"/><morvoRequirement minVersion=\"2.1\"/></requirements>",
           "<requirements><morvoRequirement minVersion=\"2.1\"/></requirements>", ""},
          findRepeatedRequirements},
         {{"repeated-executable-file", Severity::Warning, "An executable file stands twice",
-          "The second one changes nothing.", ExampleFrame::Package,
+          "The second one changes nothing. The fix drops it.", ExampleFrame::Package,
           "<executableFiles><file path=\"bin/clock\"/><file path=\"bin/clock\"/></executableFiles>",
           "<executableFiles><file path=\"bin/clock\"/></executableFiles>", ""},
          findRepeatedFiles},
         {{"repeated-text", Severity::Info, "A tag, sentence or condition stands twice in one list",
-          "Readers keep both, so that a response comes twice as often, and a tag is counted twice.",
+          "Readers keep both, so that a response comes twice as often, and a tag is counted twice. The fix drops the "
+          "second "
+          "one.",
           ExampleFrame::Behavior, "<tags><tag lang=\"en\">fun</tag><tag lang=\"en\">fun</tag></tags>",
           "<tags><tag lang=\"en\">fun</tag><tag lang=\"en\">games</tag></tags>", ""},
          findRepeatedTexts},

@@ -246,7 +246,9 @@ const std::vector<RuleRow>& vocabularyRules()
          findUnknownRoot},
         {{"unknown-element", Severity::Error, "An element that manifests do not have",
           "Readers skip elements that they do not know, with all that stands in them and without a word. In the lists "
-          "of texts and languages every element is an entry, whatever it is called.",
+          "of texts and languages every element is an entry, whatever it is called. The fix gives it the name that was "
+          "meant, or "
+          "removes what readers skip.",
           ExampleFrame::Behavior, "<tagz><tag lang=\"en\">fun</tag></tagz>", "<tags><tag lang=\"en\">fun</tag></tags>",
           ""},
          findUnknownElements},
@@ -255,14 +257,16 @@ const std::vector<RuleRow>& vocabularyRules()
           "<webContent path=\"web\"/>", "<!-- webContent stands in contents -->", ""},
          findMisplacedElements},
         {{"unknown-attribute", Severity::Error, "An attribute that its element does not have",
-          "Readers skip attributes that they do not know, without a word.", ExampleFrame::Package,
+          "Readers skip attributes that they do not know, without a word. The fix gives it the name that was meant, or "
+          "removes it.",
+          ExampleFrame::Package,
           "<services><service name=\"clock\" execStart=\"bin/clock\" autoRun=\"true\"/></services>",
           "<services><service name=\"clock\" execStart=\"bin/clock\" autorun=\"true\"/></services>", ""},
          findUnknownAttributes},
         {{"counted-node", Severity::Error, "A comment or text that is read as an entry of a list",
           "In names, descriptions, languages, tags, sentences, responses and conditions every node counts: a comment "
           "there becomes an entry with an empty language and an empty text. Put comments around the list, or into its "
-          "entries.",
+          "entries. The fix removes the node, and the entry that readers make of it.",
           ExampleFrame::Package,
           "<descriptions><!-- to do --><description lang=\"en\">Says hello</description></descriptions>",
           "<!-- to do --><descriptions><description lang=\"en\">Says hello</description></descriptions>", ""},

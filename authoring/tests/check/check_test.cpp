@@ -1,8 +1,6 @@
 #include "support/files.hpp"
-#include "support/manifests.hpp"
 
 #include <zupackage/authoring/check.hpp>
-#include <zupackage/authoring/rule.hpp>
 #include <zupackage/package_info.hpp>
 
 #include <gmock/gmock.h>
@@ -15,7 +13,6 @@ using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;
 using testing::EndsWith;
-using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::SizeIs;
@@ -39,13 +36,6 @@ const std::string k_faulty = "<package uuid='u' version='one'>\n"
                              "      <permissions><é/><canSitDown/><canSitDown/></permissions></behaviorContent>\n"
                              "  </contents>\n"
                              "</package>";
-
-std::string manifestOf(const std::string& bytes)
-{
-    PackageInfo package;
-    EXPECT_TRUE(readManifest(bytes, package));
-    return package.saveToManifestContent();
-}
 
 } // namespace
 
@@ -295,51 +285,6 @@ TEST(Check, OfTheExamplesFindsTheTextsThatTrimmingDrops)
             ids.push_back(example.filename().string() + " " + finding.rule);
     }
     EXPECT_THAT(ids, ElementsAre("story-teller undeclared-language", "story-teller trimmed-text"));
-}
-
-TEST(Fixes, ThatAreSafeLeaveThePackageAsItReads)
-{
-    const auto changesThePackage = [](const Rule& rule) {
-        return rule.id == "wide-reference" || rule.id == "invalid-flag";
-    };
-    for (const Rule& rule : rules()) {
-        if (!rule.files.empty() || changesThePackage(rule))
-            continue;
-        const SourceDocument document = SourceDocument::parse(manifestWith(rule, rule.badExample));
-        const std::string fixed = applyFixes(document, check(document).findings, false);
-        const bool isSame = fixed == document.text() || manifestOf(fixed) == manifestOf(document.text());
-        EXPECT_TRUE(isSame) << rule.id;
-    }
-}
-
-TEST(Fixes, OfPaddedFlagsMakeThemWhatWasMeant)
-{
-    const SourceDocument document = SourceDocument::parse("<package installOnlyAtStartup=' true '/>");
-    EXPECT_EQ(applyFixes(document, check(document).findings, false), "<package installOnlyAtStartup='true'/>");
-}
-
-TEST(Fixes, TakeTheLineOfWhatTheyRemove)
-{
-    const std::string before = "<package>\r\n  <contents>\r\n    <behaviorContent path='a'>\r\n      <permissions>\r\n"
-                               "        <canSitDown/>\r\n        <canSitDown/>\r\n      </permissions>";
-    const std::string end = "</behaviorContent></contents></package>";
-    const SourceDocument document = SourceDocument::parse(before + end);
-    std::vector<std::size_t> applied;
-    const auto findings = check(document).findings;
-    EXPECT_EQ(applyFixes(document, findings, false, &applied),
-              "<package>\r\n  <contents>\r\n    <behaviorContent path='a'>\r\n      <permissions>\r\n"
-              "        <canSitDown/>\r\n      </permissions>" +
-                  end);
-    ASSERT_THAT(applied, SizeIs(1));
-    EXPECT_EQ(findings[applied[0]].rule, "repeated-permission");
-}
-
-TEST(Fixes, ThatAreNotSafeWaitUntilTheyAreAskedFor)
-{
-    const SourceDocument document = SourceDocument::parse("<package versoin='1'/>");
-    const auto findings = check(document).findings;
-    EXPECT_EQ(applyFixes(document, findings, false), document.text());
-    EXPECT_EQ(applyFixes(document, findings, true), "<package version='1'/>");
 }
 
 } // namespace zu::authoring
