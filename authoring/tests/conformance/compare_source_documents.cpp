@@ -1,72 +1,123 @@
 // Compares how files in folders are read as source documents with what QXmlStreamReader makes of them.
 // usage: zupackage_compare_source_documents FOLDER...
-// Each is edited, too. Also tells which documents are refused that QXmlStreamReader accepts: those are no differences,
-// but known by name.
+// Each is edited, there and back, too. Also tells which documents are refused that QXmlStreamReader accepts: those are
+// no differences, but known by name.
 #include "support/files.hpp"
+#include "support/odd_manifests.hpp"
 #include "support/stream_reader.hpp"
 
 #include <zupackage/authoring/manifest_editor.hpp>
 #include <zupackage/package_info.hpp>
 
+#include <filesystem>
 #include <iostream>
+#include <rapidcheck.h>
 
 namespace {
 
-/// Whether an editor leaves a document alone that is to read as it does. One that cannot be edited is left alone, too.
-bool isKeptByEditor(const zu::authoring::SourceDocument& document)
+/// What became of the edits of a document.
+enum class Editing
+{
+    AsAskedFor,
+    Refused, ///< by the editor, before it changed anything
+    Wrong
+};
+
+/// What of a package manifests carry: what stays when it is written and read again and again.
+std::string carried(zu::PackageInfo package)
+{
+    std::string text = package.saveToManifestContent();
+    for (;;) {
+        zu::PackageInfo read;
+        zu::readManifest(text, read);
+        std::string next = read.saveToManifestContent();
+        if (next == text)
+            return next;
+        text = std::move(next);
+    }
+}
+
+/// A package with a few things changed, the same ones in each run.
+zu::PackageInfo changed(const zu::PackageInfo& package)
+{
+    const auto generator = rc::gen::exec([&package] { return zu::test::changedPackage(package); });
+    return generator(rc::Random(1), rc::kNominalSize).value();
+}
+
+/// Makes a document read as another package and back as its own, each twice.
+Editing edit(const zu::authoring::SourceDocument& document)
 {
     try {
         zu::authoring::ManifestEditor editor(document);
-        zu::PackageInfo package = editor.package();
-        editor.update(package);
-        if (editor.document().text() != document.text())
-            return false;
-        package.setUuid("another " + package.uuid());
-        editor.update(package);
-        return editor.package().uuid() == package.uuid();
+        const zu::PackageInfo own = editor.package();
+        const zu::PackageInfo others[] = {own, changed(own), own};
+        for (const zu::PackageInfo& package : others) {
+            editor.update(package);
+            const std::string text = editor.document().text();
+            editor.update(package);
+            if (editor.document().text() != text || carried(editor.package()) != carried(package))
+                return Editing::Wrong;
+            if (&package == &others[0] && text != document.text())
+                return Editing::Wrong;
+        }
+        return Editing::AsAskedFor;
     } catch (const zu::authoring::ManifestEditError&) {
-        return true;
+        return Editing::Refused;
     }
+}
+
+struct Counts
+{
+    int files = 0;
+    int refused = 0;
+    int refusedHereAlone = 0;
+    int notEdited = 0; ///< of those that are not refused
+    int differences = 0;
+};
+
+void compare(const std::string& path, Counts& counts)
+{
+    ++counts.files;
+    const std::string bytes = zu::test::readFile(path);
+    const std::string difference = zu::test::differenceFromStreamReader(bytes);
+    if (!difference.empty()) {
+        ++counts.differences;
+        std::cout << path << ", " << difference << '\n';
+    }
+    const auto document = zu::authoring::SourceDocument::parse(bytes);
+    const Editing editing = edit(document);
+    if (editing == Editing::Wrong) {
+        ++counts.differences;
+        std::cout << path << ", edited otherwise than asked for\n";
+    }
+    if (document.isWellFormed()) {
+        counts.notEdited += editing == Editing::Refused ? 1 : 0;
+        return;
+    }
+    ++counts.refused;
+    std::string error;
+    zu::test::streamReaderTokens(bytes, error);
+    if (!error.empty())
+        return;
+    ++counts.refusedHereAlone;
+    const auto& first = document.errors().front();
+    std::cout << path << ':' << first.place.line << ':' << first.place.column
+              << ": refused here alone: " << first.message << '\n';
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    namespace fs = std::filesystem;
-    int files = 0;
-    int refused = 0;
-    int refusedHereAlone = 0;
-    int differences = 0;
-    for (int i = 1; i < argc; ++i)
-        for (const auto& entry : fs::recursive_directory_iterator(argv[i])) {
-            if (!entry.is_regular_file())
-                continue;
-            ++files;
-            const std::string bytes = zu::test::readFile(entry.path());
-            const std::string difference = zu::test::differenceFromStreamReader(bytes);
-            if (!difference.empty()) {
-                ++differences;
-                std::cout << entry.path().string() << ", " << difference << '\n';
-            }
-            const auto document = zu::authoring::SourceDocument::parse(bytes);
-            if (!isKeptByEditor(document)) {
-                ++differences;
-                std::cout << entry.path().string() << ", edited otherwise than asked for\n";
-            }
-            std::string error;
-            zu::test::streamReaderTokens(bytes, error);
-            if (document.isWellFormed())
-                continue;
-            ++refused;
-            if (error.empty()) {
-                ++refusedHereAlone;
-                const auto& first = document.errors().front();
-                std::cout << entry.path().string() << ':' << first.place.line << ':' << first.place.column
-                          << ": refused here alone: " << first.message << '\n';
-            }
+    Counts counts;
+    for (int i = 1; i < argc; ++i) {
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(argv[i])) {
+            if (entry.is_regular_file())
+                compare(entry.path().string(), counts);
         }
-    std::cout << files << " files, " << refused << " of them refused (" << refusedHereAlone
-              << " by QXmlStreamReader not), " << differences << " of them read differently\n";
-    return files > 0 && differences == 0 ? 0 : 1;
+    }
+    std::cout << counts.files << " files, " << counts.refused << " of them refused (" << counts.refusedHereAlone
+              << " by QXmlStreamReader not), " << counts.notEdited << " of the others not edited, "
+              << counts.differences << " of them read differently\n";
+    return counts.files > 0 && counts.differences == 0 ? 0 : 1;
 }

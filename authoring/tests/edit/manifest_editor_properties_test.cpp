@@ -1,3 +1,4 @@
+#include "support/files.hpp"
 #include "support/generated_documents.hpp"
 #include "support/generated_packages.hpp"
 #include "support/odd_manifests.hpp"
@@ -8,8 +9,8 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <set>
+#include <filesystem>
+#include <iostream>
 #include <vector>
 
 namespace zu::authoring {
@@ -79,61 +80,28 @@ void expectNoChange(ManifestEditor& editor, const PackageInfo& package)
     RC_ASSERT(editor.document().text() == before.text());
 }
 
-/// The elements that are read as behaviors.
-std::vector<SourceNode> behaviorsIn(const SourceDocument& document)
-{
-    std::vector<SourceNode> behaviors;
-    for (const SourceNode section : document.root().children())
-        for (const SourceNode child : section.children())
-            if (section.isElement() && section.name() == "contents" && child.name() == "behaviorContent")
-                behaviors.push_back(child);
-    return behaviors;
-}
-
-bool hasRepeatedPaths(const PackageInfo& package)
-{
-    std::set<std::string> paths;
-    for (const BehaviorInfo& behavior : package.behaviors())
-        paths.insert(behavior.path());
-    return paths.size() != package.behaviors().size();
-}
-
-/// The lines that a node stands in, with their ends.
-ByteRange linesOf(SourceNode node, const SourceDocument& document)
-{
-    const std::string& text = document.text();
-    const std::size_t lineEndSize = document.encoding() == "UTF-16LE" ? 4 : 2;
-    const std::size_t before = text.find_last_of("\r\n", node.range().begin);
-    const std::size_t after = text.find_first_of("\r\n", node.range().end);
-    return {before == std::string::npos ? 0 : before,
-            after == std::string::npos ? text.size() : std::min(after + lineEndSize, text.size())};
-}
-
-/// Whether two texts are equal but for what stands in the range of the first.
-bool areEqualOutside(ByteRange range, const std::string& text, const std::string& other)
-{
-    const std::size_t behind = text.size() - range.end;
-    return other.size() >= range.begin + behind && other.compare(0, range.begin, text, 0, range.begin) == 0 &&
-           other.compare(other.size() - behind, behind, text, range.end, behind) == 0;
-}
-
 } // namespace
 
 TEST(ManifestEditorProperties, AnUpdateMakesTheDocumentReadAsThePackage)
 {
-    test::checkProperty(k_documents, [] {
+    int refused = 0;
+    const int documents = test::checkProperty(k_documents, [&refused] {
         ManifestEditor editor = oddEditor();
         for (int i = 0; i < k_updatesEach; ++i) {
             const PackageInfo own = editor.package();
             expectNoChange(editor, own);
             const PackageInfo target = test::changedPackage(own);
-            if (!isUpdated(editor, target))
+            if (!isUpdated(editor, target)) {
+                ++refused;
                 continue;
+            }
             expectNoChange(editor, target);
             ManifestEditor back = editor;
             isUpdated(back, own);
         }
     });
+    std::cout << refused << " of " << documents * k_updatesEach << " updates refused\n";
+    EXPECT_LT(refused, documents * k_updatesEach / 2);
 }
 
 TEST(ManifestEditorProperties, AnUpdateToAnyPackageAndBackReadsAsBefore)
@@ -160,29 +128,18 @@ TEST(ManifestEditorProperties, AnyDocumentThatIsReadCanBeEdited)
     });
 }
 
-TEST(ManifestEditorProperties, WhatChangesStandsInTheLinesOfTheEntryThatChanges)
+TEST(ManifestEditorProperties, EveryExampleReadsAsAnUpdateSaysAndBack)
 {
-    test::checkProperty(k_documents, [] {
-        ManifestEditor editor = oddEditor();
-        for (int i = 0; i < k_updatesEach; ++i) {
-            const SourceDocument before = editor.document();
-            const std::vector<SourceNode> behaviors = behaviorsIn(before);
-            PackageInfo package = editor.package();
-            // Of two that are alike either one may be taken for the other.
-            if (behaviors.empty() || hasRepeatedPaths(package))
-                return;
-            const auto number = *rc::gen::inRange<std::size_t>(0, behaviors.size());
-            const auto behavior = std::next(package.behaviors().begin(), static_cast<std::ptrdiff_t>(number));
-            if (*rc::gen::arbitrary<bool>())
-                package.behaviors().erase(behavior);
-            else
-                test::changeBehavior(*behavior);
-            if (!isUpdated(editor, package))
-                continue;
-            const ByteRange lines = linesOf(behaviors[number], before);
-            if (!areEqualOutside(lines, before.text(), editor.document().text()))
-                RC_FAIL(before.text() + "\nbecame\n" + editor.document().text());
-        }
+    const std::vector<std::filesystem::path> examples = test::examplePackages();
+    test::checkProperty(400, [&] {
+        const std::string bytes = test::readFile(*rc::gen::elementOf(examples) / "manifest.xml");
+        ManifestEditor editor(SourceDocument::parse(bytes));
+        const PackageInfo own = editor.package();
+        expectNoChange(editor, own);
+        const PackageInfo target = test::changedPackage(own);
+        RC_ASSERT(isUpdated(editor, target));
+        expectNoChange(editor, target);
+        RC_ASSERT(isUpdated(editor, own));
     });
 }
 
