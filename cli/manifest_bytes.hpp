@@ -1,8 +1,14 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace zu::cli {
+
+/// Reads what a file holds, of any name and kind, but not more than `most` bytes of it.
+/// @param failure receives why it could not be read.
+/// @return whether it could.
+bool readFileBytes(const std::string& path, std::size_t most, std::string& bytes, std::string& failure);
 
 /// Reads what a manifest file holds, or standard input for "-". Of what is larger than any document that is read, a
 /// byte more than that.

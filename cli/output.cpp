@@ -1,5 +1,7 @@
 #include "output.hpp"
 
+#include "display_width.hpp"
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -14,7 +16,7 @@ bool writeOutput(std::string_view text)
     return false;
 }
 
-void complain(const std::string& message) { std::fprintf(stderr, "zupackage: %s\n", message.c_str()); }
+void complain(const std::string& message) { std::fprintf(stderr, "zupackage: %s\n", displayed(message).c_str()); }
 
 ExitCode outputFailed()
 {

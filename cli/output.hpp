@@ -11,7 +11,7 @@ namespace zu::cli {
 /// @return false when it could not be written; standard error says why then.
 bool writeOutput(std::string_view text);
 
-/// Says something about a failure on standard error.
+/// Says something about a failure on standard error, as one line that cannot steer a terminal.
 void complain(const std::string& message);
 
 /// Says on standard error why standard output could not be written.

@@ -1,8 +1,11 @@
 #include "check/checked_manifest.hpp"
 
+#include "check/fixed_document.hpp"
 #include "manifest_bytes.hpp"
 
 #include <zupackage/package_info.hpp>
+
+#include <QtCore/QString>
 
 #include <filesystem>
 
@@ -16,58 +19,86 @@ std::string folderOf(const std::string& path)
     return folder.empty() ? "." : folder;
 }
 
-/// Fixes the document until nothing is left to fix: a fix may uncover the next.
-void fix(CheckedManifest& checked, const CheckTask& task, const authoring::CheckOptions& options)
+/// The settings for the manifest; those of the task stand before those of files.
+/// @param path of the manifest; none for standard input.
+RuleSettings settingsOf(const std::optional<std::string>& path, const CheckTask& task)
 {
-    constexpr int k_mostRounds = 100;
-    for (int round = 0; round < k_mostRounds; ++round) {
-        std::vector<std::size_t> applied;
-        std::string text = authoring::applyFixes(checked.document, checked.report.findings, task.fixesUnsafe, &applied);
-        if (text == checked.document.text())
-            return;
-        for (const std::size_t index : applied) {
-            const authoring::Diagnostic& finding = checked.report.findings[index];
-            checked.fixes.push_back({finding.rule, finding.fix->title, finding.range.begin});
-        }
-        checked.document = authoring::SourceDocument::parse(std::move(text));
-        checked.report = authoring::check(checked.document, options);
+    RuleSettings settings = path ? settingsFor(folderOf(*path)) : RuleSettings();
+    for (const auto& [id, severity] : task.settings.severities) {
+        settings.severities[id] = severity;
+        settings.reasons.erase(id);
     }
+    for (const auto& [id, reason] : task.settings.reasons)
+        settings.reasons[id] = reason;
+    return settings;
+}
+
+/// @return false when they cannot be had, which the manifest's failure tells then.
+bool takeSettings(CheckedManifest& checked, const std::optional<std::string>& path, const CheckTask& task,
+                  authoring::CheckOptions& options)
+{
+    try {
+        RuleSettings settings = settingsOf(path, task);
+        options.severities = std::move(settings.severities);
+        checked.reasons = std::move(settings.reasons);
+    } catch (const SettingsError& error) {
+        checked.failure = error.what();
+        checked.failureExitCode = k_usage;
+    } catch (const UnreadableSettings& error) {
+        checked.failure = error.what();
+    }
+    return checked.failure.empty();
+}
+
+/// @return why the file could not be written; empty when it was.
+std::string writeFile(const std::string& path, const std::string& bytes)
+{
+    // Of another name another file would be written.
+    if (QString::fromStdString(path).toStdString() != path)
+        return "Could not write " + path + ": The name is no UTF-8";
+    try {
+        replaceManifest(path, bytes);
+        return {};
+    } catch (const std::runtime_error& error) {
+        return error.what();
+    }
+}
+
+void fix(CheckedManifest& checked, const std::string& path, const CheckTask& task,
+         const authoring::CheckOptions& options)
+{
+    FixedDocument fixed = fixedDocument(checked.document, checked.report, options, task.fixesUnsafe);
+    if (fixed.fixes.empty())
+        return;
+    if (task.writesFixes) {
+        checked.writeFailure = writeFile(path, fixed.document.text());
+        if (!checked.writeFailure.empty())
+            return;
+        checked.document = std::move(fixed.document);
+        checked.report = std::move(fixed.report);
+        checked.isFixed = true;
+    }
+    checked.fixes = std::move(fixed.fixes);
 }
 
 } // namespace
 
 CheckedManifest checkManifest(const std::string& path, const CheckTask& task)
 {
-    const bool isFile = path != "-";
+    const std::optional<std::string> file = path == "-" ? std::nullopt : std::optional<std::string>(path);
     CheckedManifest checked;
     checked.name = shownName(path);
-    std::string bytes;
-    if (!readManifestBytes(path, bytes, checked.failure))
-        return checked;
-
-    RuleSettings settings = isFile ? settingsFor(folderOf(path)) : RuleSettings();
-    for (const auto& [id, severity] : task.settings.severities)
-        settings.severities[id] = severity;
-    for (const auto& [id, reason] : task.settings.reasons)
-        settings.reasons[id] = reason;
-    checked.reasons = settings.reasons;
-
     authoring::CheckOptions options;
+    std::string bytes;
+    if (!readManifestBytes(path, bytes, checked.failure) || !takeSettings(checked, file, task, options))
+        return checked;
     options.root = task.root;
-    if (!options.root && isFile)
-        options.root = folderOf(path);
-    options.severities = settings.severities;
+    if (!options.root && file)
+        options.root = folderOf(*file);
     checked.document = authoring::SourceDocument::parse(std::move(bytes));
     checked.report = authoring::check(checked.document, options);
     if (task.fixes)
-        fix(checked, task, options);
-    if (checked.fixes.empty() || !task.writesFixes)
-        return checked;
-    try {
-        replaceManifest(path, checked.document.text());
-    } catch (const std::runtime_error& error) {
-        checked.writeFailure = error.what();
-    }
+        fix(checked, path, task, options);
     return checked;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check/rule_settings.hpp"
+#include "command.hpp"
 
 #include <zupackage/authoring/check.hpp>
 
@@ -20,28 +21,29 @@ struct CheckTask
     bool writesFixes = false; ///< else they are made for the report alone
 };
 
-/// A fix that was made.
-struct AppliedFix
+/// A fix of a manifest.
+struct ManifestFix
 {
     std::string rule;
     std::string title;
-    authoring::Place place; ///< in the document as it was when the fix was made
+    authoring::Place place; ///< in the file before all fixes
 };
 
 /// What became of a manifest.
 struct CheckedManifest
 {
-    std::string name;         ///< as messages show it
-    std::string failure;      ///< why it could not be read; empty when it was
+    std::string name;                         ///< as messages show it, but any bytes
+    std::string failure;                      ///< why it could not be checked; empty when it was
+    ExitCode failureExitCode = k_inputFailed; ///< wrong usage for settings that cannot be understood
     std::string writeFailure; ///< why its fixes could not be written; empty when they were, or there were none
-    authoring::SourceDocument document;         ///< after the fixes
+    authoring::SourceDocument document;         ///< as the file is now
     authoring::CheckReport report;              ///< of that document
     std::map<std::string, std::string> reasons; ///< of suppressed findings, by their rules
-    std::vector<AppliedFix> fixes;
+    std::vector<ManifestFix> fixes;             ///< those that were made, or would be
+    bool isFixed = false;                       ///< the fixes are in the file
 };
 
 /// Checks a manifest file, or what standard input holds for "-".
-/// @throws SettingsError for the file of settings that applies to it.
 CheckedManifest checkManifest(const std::string& path, const CheckTask& task);
 
 } // namespace zu::cli

@@ -1,4 +1,6 @@
+#include "check/remarks.hpp"
 #include "check/report.hpp"
+#include "display_width.hpp"
 
 namespace zu::cli {
 
@@ -7,7 +9,7 @@ namespace {
 using authoring::Diagnostic;
 using authoring::Severity;
 
-/// What would end a message or a property of a workflow command.
+/// Without what would end a message or a property of a workflow command, or steer the terminal that shows it.
 std::string escaped(std::string_view text, bool isProperty)
 {
     std::string result;
@@ -25,10 +27,10 @@ std::string escaped(std::string_view text, bool isProperty)
         else
             result += c;
     }
-    return result;
+    return displayed(result);
 }
 
-const char* commandFor(Severity severity)
+const char* commandOf(Severity severity)
 {
     switch (severity) {
     case Severity::Error:
@@ -42,34 +44,72 @@ const char* commandFor(Severity severity)
     return "notice";
 }
 
+std::string annotation(const char* command, const std::string& properties, const std::string& title,
+                       const std::string& message)
+{
+    return "::" + std::string(command) + " " + properties + ",title=" + escaped(title, true) +
+           "::" + escaped(message, false) + "\n";
+}
+
+std::string fileProperty(const std::string& path) { return "file=" + escaped(path, true); }
+
+std::string properties(const std::string& path, const authoring::SourceRange& range)
+{
+    std::string text =
+        fileProperty(path) + ",line=" + std::to_string(range.begin.line) + ",endLine=" + std::to_string(range.end.line);
+    // Columns are taken only within one line.
+    if (range.begin.line == range.end.line)
+        text += ",col=" + std::to_string(range.begin.column) + ",endColumn=" + std::to_string(range.end.column);
+    return text;
+}
+
 /// Workflow commands: each becomes an annotation beside the line.
 class GithubReporter : public CheckReporter
 {
 public:
+    explicit GithubReporter(bool showsSuppressed) : m_showsSuppressed(showsSuppressed) {}
+
+    std::string add(const SearchFailure& failure) override
+    {
+        return annotation("error", fileProperty(failure.path), "unreadable", failure.message);
+    }
+
     std::string add(const CheckedManifest& manifest) override
     {
-        const std::string file = "file=" + escaped(manifest.name, true);
-        if (!manifest.failure.empty())
-            return "::error " + file + ",title=unreadable::" + escaped(manifest.failure, false) + "\n";
+        const std::string file = fileProperty(manifest.name);
         std::string text;
-        for (const Diagnostic& finding : manifest.report.findings) {
-            text += "::" + std::string(commandFor(finding.severity)) + " " + file +
-                    ",line=" + std::to_string(finding.range.begin.line) +
-                    ",endLine=" + std::to_string(finding.range.end.line);
-            // Columns are taken only within one line.
-            if (finding.range.begin.line == finding.range.end.line)
-                text += ",col=" + std::to_string(finding.range.begin.column) +
-                        ",endColumn=" + std::to_string(finding.range.end.column);
-            text += ",title=" + escaped(finding.rule, true) + "::" + escaped(finding.message, false) + "\n";
+        if (!manifest.failure.empty())
+            text += annotation("error", file, "unreadable", manifest.failure);
+        if (!manifest.writeFailure.empty())
+            text += annotation("error", file, "not written", manifest.writeFailure);
+        for (const ManifestFix& fix : manifest.fixes)
+            text += annotation(
+                "notice", file + ",line=" + std::to_string(fix.place.line) + ",col=" + std::to_string(fix.place.column),
+                fix.rule, wordsOf(manifest, fix));
+        for (const Diagnostic& finding : manifest.report.findings)
+            text += annotation(commandOf(finding.severity), properties(manifest.name, finding.range), finding.rule,
+                               finding.message);
+        if (m_showsSuppressed) {
+            for (const Diagnostic& finding : manifest.report.suppressed)
+                text += annotation("notice", properties(manifest.name, finding.range), finding.rule,
+                                   "suppressed: " + finding.message + " (" + manifest.reasons.at(finding.rule) + ")");
         }
+        if (const std::string omission = omissionOf(manifest); !omission.empty())
+            text += annotation("warning", file, "left out", omission);
         return text;
     }
 
     std::string finish(const CheckSummary&) override { return {}; }
+
+private:
+    bool m_showsSuppressed;
 };
 
 } // namespace
 
-std::unique_ptr<CheckReporter> githubReporter() { return std::make_unique<GithubReporter>(); }
+std::unique_ptr<CheckReporter> githubReporter(bool showsSuppressed)
+{
+    return std::make_unique<GithubReporter>(showsSuppressed);
+}
 
 } // namespace zu::cli

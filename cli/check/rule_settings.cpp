@@ -1,10 +1,9 @@
 #include "check/rule_settings.hpp"
 
 #include "check/severity_names.hpp"
+#include "manifest_bytes.hpp"
 
 #include <zupackage/authoring/rule.hpp>
-
-#include <QtCore/QFile>
 
 #include <filesystem>
 #include <sstream>
@@ -35,12 +34,21 @@ std::string severityChoices()
     return choices + "or off";
 }
 
-std::string readFile(const fs::path& path)
+/// @param name of the file as messages show it.
+std::string readSettings(const fs::path& path, const std::string& name)
 {
-    QFile file(QString::fromStdString(path.string()));
-    if (!file.open(QIODevice::ReadOnly))
-        throw SettingsError(path.string() + ": " + file.errorString().toStdString());
-    return file.readAll().toStdString();
+    constexpr std::size_t k_most = std::size_t{1024} * 1024;
+    std::error_code error;
+    const fs::file_type type = fs::status(path, error).type();
+    if (!error && type != fs::file_type::regular)
+        throw UnreadableSettings(name + ": Not a regular file");
+    std::string content;
+    std::string failure;
+    if (!readFileBytes(path.string(), k_most + 1, content, failure))
+        throw UnreadableSettings(name + ": " + failure);
+    if (content.size() > k_most)
+        throw SettingsError(name + ": larger than 1 MiB, which no settings are");
+    return content;
 }
 
 } // namespace
@@ -104,8 +112,10 @@ RuleSettings settingsFor(const std::string& folder)
         return {};
     for (;; place = place.parent_path()) {
         const fs::path file = place / k_fileName;
-        if (fs::exists(file, error))
-            return parseSettings(readFile(file), file.lexically_proximate(fs::current_path(error)).string());
+        if (fs::exists(fs::symlink_status(file, error))) { // a link that leads nowhere was meant as settings, too
+            const std::string name = file.lexically_proximate(fs::current_path(error)).string();
+            return parseSettings(readSettings(file, name), name);
+        }
         if (!place.has_relative_path())
             return {};
     }

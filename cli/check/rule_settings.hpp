@@ -26,6 +26,13 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// Settings that cannot be read; the text says where and why.
+class UnreadableSettings : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
 /// Adds "rule=severity" or "rule=off", as it stands in a file or on the command line.
 /// @throws SettingsError for another text, a rule or a severity that there is not.
 /// @param reason for which the rule is off, when it is.
@@ -39,7 +46,8 @@ RuleSettings parseSettings(const std::string& content, const std::string& name);
 
 /// The settings for a manifest in that folder: those of the nearest file ".zupackage-check", beside it or above.
 /// None when there is no such file.
-/// @throws SettingsError also when the file cannot be read.
+/// @throws SettingsError for a file that cannot be understood, or is larger than any settings are.
+/// @throws UnreadableSettings for one that cannot be read, and for what is no regular file, which might have no end.
 RuleSettings settingsFor(const std::string& folder);
 
 } // namespace zu::cli

@@ -1,8 +1,9 @@
+#include "check/remarks.hpp"
 #include "check/report.hpp"
 
 #include <zupackage/authoring/rule.hpp>
 
-#include <QtCore/QUrl>
+#include <QtCore/QByteArray>
 
 #include <nlohmann/json.hpp>
 
@@ -33,7 +34,7 @@ const char* levelOf(Severity severity)
 
 ordered_json artifactOf(const std::string& path)
 {
-    const QByteArray uri = QUrl::toPercentEncoding(QString::fromStdString(path), "/");
+    const QByteArray uri = QByteArray::fromStdString(path).toPercentEncoding("/");
     return {{"uri", std::string(uri.constData())}};
 }
 
@@ -112,13 +113,26 @@ ordered_json rulesOf()
 class SarifReporter : public CheckReporter
 {
 public:
+    std::string add(const SearchFailure& failure) override
+    {
+        notify("error", failure.message, {{"artifactLocation", artifactOf(failure.path)}});
+        return {};
+    }
+
     std::string add(const CheckedManifest& manifest) override
     {
+        const ordered_json file = {{"artifactLocation", artifactOf(manifest.name)}};
         if (!manifest.failure.empty())
-            m_notifications.push_back(
-                {{"level", "error"},
-                 {"message", {{"text", manifest.failure}}},
-                 {"locations", listOf({{"physicalLocation", {{"artifactLocation", artifactOf(manifest.name)}}}})}});
+            notify("error", manifest.failure, file);
+        if (!manifest.writeFailure.empty())
+            notify("error", manifest.writeFailure, file);
+        if (const std::string omission = omissionOf(manifest); !omission.empty())
+            notify("warning", omission, file);
+        for (const ManifestFix& fix : manifest.fixes) {
+            ordered_json place = file;
+            place["region"] = {{"startLine", fix.place.line}, {"startColumn", fix.place.column}};
+            notify("note", wordsOf(manifest, fix), place);
+        }
         for (const Diagnostic& finding : manifest.report.findings)
             m_results.push_back(resultOf(manifest, finding));
         for (const Diagnostic& finding : manifest.report.suppressed) {
@@ -133,9 +147,10 @@ public:
     {
         const ordered_json tool = {
             {"driver", {{"name", "zupackage"}, {"version", ZUPACKAGE_VERSION}, {"rules", rulesOf()}}}};
+        const bool isSuccessful = summary.unreadable == 0 && summary.unwritten == 0;
         const ordered_json run = {{"tool", tool},
                                   {"columnKind", "unicodeCodePoints"},
-                                  {"invocations", listOf({{"executionSuccessful", summary.unreadable == 0},
+                                  {"invocations", listOf({{"executionSuccessful", isSuccessful},
                                                           {"toolExecutionNotifications", std::move(m_notifications)}})},
                                   {"results", std::move(m_results)}};
         const ordered_json log = {
@@ -144,6 +159,13 @@ public:
     }
 
 private:
+    void notify(const char* level, const std::string& message, const ordered_json& physicalLocation)
+    {
+        m_notifications.push_back({{"level", level},
+                                   {"message", {{"text", message}}},
+                                   {"locations", listOf({{"physicalLocation", physicalLocation}})}});
+    }
+
     ordered_json m_results = ordered_json::array();
     ordered_json m_notifications = ordered_json::array();
 };

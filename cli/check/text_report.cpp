@@ -1,6 +1,8 @@
+#include "check/remarks.hpp"
 #include "check/report.hpp"
 #include "check/severity_names.hpp"
 #include "check/source_excerpt.hpp"
+#include "display_width.hpp"
 #include "terminal.hpp"
 
 namespace zu::cli {
@@ -35,21 +37,24 @@ class TextReporter : public CheckReporter
 public:
     explicit TextReporter(const TextStyle& style) : m_style(style) {}
 
+    /// Standard error tells it.
+    std::string add(const SearchFailure&) override { return {}; }
+
     std::string add(const CheckedManifest& manifest) override
     {
         std::string text;
-        for (const AppliedFix& fix : manifest.fixes)
-            text += placed(manifest, fix.place) + painted(m_style.fixesAreMade ? "fixed" : "would fix", k_green) +
-                    ": " + fix.title + " [" + fix.rule + "]\n";
+        for (const ManifestFix& fix : manifest.fixes)
+            text += placed(manifest, fix.place) + painted(verbOf(manifest), k_green) + ": " + displayed(fix.title) +
+                    " [" + fix.rule + "]\n";
         for (const Diagnostic& finding : manifest.report.findings)
             text += lines(manifest, finding, painted(nameOf(finding.severity), colourOf(finding.severity)));
         if (m_style.showsSuppressed) {
             for (const Diagnostic& finding : manifest.report.suppressed)
                 text += lines(manifest, finding, painted("suppressed", k_dim)) + "    " +
-                        manifest.reasons.at(finding.rule) + "\n";
+                        displayed(manifest.reasons.at(finding.rule)) + "\n";
         }
-        if (manifest.report.omitted > 0)
-            text += manifest.name + ": " + std::to_string(manifest.report.omitted) + " more of these were left out\n";
+        if (const std::string omission = omissionOf(manifest); !omission.empty())
+            text += displayed(manifest.name) + ": " + omission + "\n";
         return text;
     }
 
@@ -63,19 +68,21 @@ private:
 
     std::string placed(const CheckedManifest& manifest, Place place) const
     {
-        return painted(manifest.name + ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ":",
+        return painted(displayed(manifest.name) + ":" + std::to_string(place.line) + ":" +
+                           std::to_string(place.column) + ":",
                        k_bold) +
                " ";
     }
 
     std::string lines(const CheckedManifest& manifest, const Diagnostic& finding, const std::string& severity) const
     {
-        std::string text =
-            placed(manifest, finding.range.begin) + severity + ": " + finding.message + " [" + finding.rule + "]\n";
+        std::string text = placed(manifest, finding.range.begin) + severity + ": " + displayed(finding.message) + " [" +
+                           finding.rule + "]\n";
         if (m_style.showsSource)
             text += sourceExcerpt(manifest.document, finding.range);
         for (const authoring::RelatedPlace& related : finding.related)
-            text += placed(manifest, related.range.begin) + painted("note", k_dim) + ": " + related.message + "\n";
+            text += placed(manifest, related.range.begin) + painted("note", k_dim) + ": " + displayed(related.message) +
+                    "\n";
         return text;
     }
 
@@ -108,12 +115,16 @@ std::string wordsOf(const CheckSummary& summary)
     if (words.empty())
         add("no findings");
     words += " in " + counted(summary.manifests, "manifest", "manifests");
-    if (summary.fixes > 0)
-        add(std::to_string(summary.fixes) + " fixed");
+    if (summary.fixed > 0)
+        add(std::to_string(summary.fixed) + " fixed");
+    if (summary.fixable > 0)
+        add(std::to_string(summary.fixable) + " would be fixed");
     if (summary.suppressed > 0)
         add(std::to_string(summary.suppressed) + " suppressed");
     if (summary.unreadable > 0)
-        add(std::to_string(summary.unreadable) + " could not be read");
+        add(std::to_string(summary.unreadable) + " could not be checked");
+    if (summary.unwritten > 0)
+        add(std::to_string(summary.unwritten) + " could not be written");
     return words;
 }
 

@@ -3,12 +3,16 @@
 #include "check/report.hpp"
 #include "check/rule_help.hpp"
 #include "check/severity_names.hpp"
+#include "check/tally.hpp"
 #include "manifest_search.hpp"
 #include "ordered_parallel.hpp"
 #include "output.hpp"
 #include "terminal.hpp"
 
+#include <algorithm>
 #include <cstdio>
+#include <filesystem>
+#include <system_error>
 
 namespace zu::cli {
 
@@ -39,12 +43,11 @@ std::unique_ptr<CheckReporter> reporterFor(const CheckArguments& arguments)
     if (arguments.format == "sarif")
         return sarifReporter();
     if (arguments.format == "github")
-        return githubReporter();
+        return githubReporter(arguments.showsSuppressed);
     if (arguments.format == "junit")
-        return junitReporter();
+        return junitReporter(arguments.showsSuppressed);
     const bool isColoured = isColourWanted(arguments.colour);
-    return textReporter(
-        {isTerminal(stdout) || isColoured, isColoured, arguments.showsSuppressed, !arguments.showsFixes});
+    return textReporter({isTerminal(stdout) || isColoured, isColoured, arguments.showsSuppressed});
 }
 
 CheckTask taskFor(const CheckArguments& arguments)
@@ -60,70 +63,51 @@ CheckTask taskFor(const CheckArguments& arguments)
     return task;
 }
 
-/// Adds up what becomes of the manifests, and what the program ends with.
-class Tally
+/// @return why no files can be looked for in the folder; empty when they can.
+std::string unusabilityOf(const std::string& folder)
 {
-public:
-    explicit Tally(const std::string& failOn) : m_failOn(severityNamed(failOn)) {}
+    std::error_code error;
+    const bool isUsable = std::filesystem::is_directory(folder + "/.", error); // asks whether it may be entered, too
+    return isUsable ? "" : error.message();
+}
 
-    void add(const CheckedManifest& manifest)
-    {
-        if (!manifest.failure.empty()) {
-            complain("cannot read " + manifest.name + ": " + manifest.failure);
-            ++m_summary.unreadable;
-            end(k_inputFailed);
-            return;
-        }
-        if (!manifest.writeFailure.empty()) {
-            complain(manifest.writeFailure);
-            end(k_outputFailed);
-        }
-        ++m_summary.manifests;
-        m_summary.suppressed += manifest.report.suppressed.size();
-        m_summary.fixes += manifest.fixes.size();
-        for (const authoring::Diagnostic& finding : manifest.report.findings) {
-            ++m_summary.findings[finding.severity];
-            if (m_failOn && finding.severity >= *m_failOn)
-                end(k_findings);
-        }
+FoundManifests manifestsFor(const CheckArguments& arguments)
+{
+    if (!arguments.root.empty()) {
+        const std::string reason = unusabilityOf(arguments.root);
+        if (!reason.empty())
+            return {{}, {{arguments.root, "cannot look for files in " + arguments.root + ": " + reason}}};
     }
-
-    void end(ExitCode code) { m_exitCode = worse(m_exitCode, code); }
-
-    const CheckSummary& summary() const { return m_summary; }
-    ExitCode exitCode() const { return m_exitCode; }
-
-private:
-    std::optional<Severity> m_failOn; ///< nothing never fails
-    CheckSummary m_summary;
-    ExitCode m_exitCode = k_success;
-};
+    return searchManifests(arguments.sources.empty() ? std::vector<std::string>{"."} : arguments.sources);
+}
 
 ExitCode checkAll(const CheckArguments& arguments)
 {
     const CheckTask task = taskFor(arguments);
-    Tally tally(arguments.failOn);
-    ExitCode result = k_success;
-    const std::vector<std::string> manifests =
-        manifestsIn(arguments.sources.empty() ? std::vector<std::string>{"."} : arguments.sources, result);
-    tally.end(result);
+    const FoundManifests found = manifestsFor(arguments);
+    Tally tally(severityNamed(arguments.failOn));
     const std::unique_ptr<CheckReporter> reporter = reporterFor(arguments);
-    Progress progress(manifests.size(), "checked");
+    bool isWritten = true;
+    const auto write = [&isWritten](const std::string& text) { isWritten = isWritten && writeOutput(text); };
+    for (const SearchFailure& failure : found.failures) {
+        tally.add(failure);
+        write(reporter->add(failure));
+    }
+    Progress progress(found.paths.size(), "checked");
     inOrder<CheckedManifest>(
-        manifests.size(), [&](std::size_t i) { return checkManifest(manifests[i], task); },
+        found.paths.size(), [&](std::size_t i) { return checkManifest(found.paths[i], task); },
         [&](const CheckedManifest& manifest) {
             progress.clear();
             tally.add(manifest);
-            const bool isWritten = writeOutput(reporter->add(manifest));
-            if (!isWritten)
-                tally.end(k_outputFailed);
+            write(reporter->add(manifest));
             progress.advance();
             return isWritten;
         });
     progress.clear();
-    if (tally.exitCode() != k_outputFailed && !writeOutput(reporter->finish(tally.summary())))
+    write(reporter->finish(tally.summary()));
+    if (!isWritten)
         tally.end(k_outputFailed);
-    if (arguments.format == "text" && !manifests.empty())
+    if (arguments.format == "text" && !found.paths.empty())
         std::fprintf(stderr, "%s\n", wordsOf(tally.summary()).c_str());
     return tally.exitCode();
 }

@@ -77,7 +77,8 @@ const std::vector<Rule> k_rules = {
     {"tests/site/", {"tests/", "cli/site/", "gmock/", "gtest/", "std/"}},
     {"tests/cli/", {"tests/", "QtCore/", "gmock/", "gtest/", "sys/", "std/"}},
     {"tests/",
-     {"tests/", "src/", k_package, k_framework, "QtCore/", "QtXml/", "boost/", "gmock/", "gtest/", "sys/", "std/"}},
+     {"tests/", "src/", k_package, k_framework, "QtCore/", "QtXml/", "boost/", "linux/", "gmock/", "gtest/", "sys/",
+      "std/"}},
 };
 
 /// What a file includes and must not.

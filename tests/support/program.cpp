@@ -2,7 +2,11 @@
 
 #include <QtCore/QProcess>
 
+#include <cstdlib>
+#include <linux/capability.h>
 #include <stdexcept>
+#include <sys/prctl.h>
+#include <unistd.h>
 
 namespace zu::test {
 
@@ -16,16 +20,28 @@ QProcessEnvironment environmentOf(const ProgramSetting& setting)
     return environment;
 }
 
-} // namespace
+/// A program that the rights of files bind, whoever runs it.
+class UnprivilegedProcess : public QProcess
+{
+protected:
+    void setupChildProcess() override
+    {
+        if (geteuid() != 0)
+            return;
+        for (const int capability : {CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH}) {
+            if (prctl(PR_CAPBSET_DROP, capability, 0, 0, 0) != 0)
+                std::_Exit(126);
+        }
+    }
+};
 
-ProgramResult runProgram(const std::string& program, const std::vector<std::string>& arguments,
-                         const ProgramSetting& setting)
+ProgramResult run(QProcess& process, const std::string& program, const std::vector<std::string>& arguments,
+                  const ProgramSetting& setting)
 {
     constexpr int k_minute = 60'000;
     QStringList list;
     for (const std::string& argument : arguments)
         list << QString::fromStdString(argument);
-    QProcess process;
     process.setProcessEnvironment(environmentOf(setting));
     if (!setting.outputFile.empty())
         process.setStandardOutputFile(QString::fromStdString(setting.outputFile));
@@ -36,6 +52,21 @@ ProgramResult runProgram(const std::string& program, const std::vector<std::stri
         throw std::runtime_error(program + " did not end: " + process.errorString().toStdString());
     return {process.exitCode(), process.readAllStandardOutput().toStdString(),
             process.readAllStandardError().toStdString()};
+}
+
+} // namespace
+
+ProgramResult runProgram(const std::string& program, const std::vector<std::string>& arguments,
+                         const ProgramSetting& setting)
+{
+    QProcess process;
+    return run(process, program, arguments, setting);
+}
+
+ProgramResult runWithoutPrivileges(const std::string& program, const std::vector<std::string>& arguments)
+{
+    UnprivilegedProcess process;
+    return run(process, program, arguments, {});
 }
 
 } // namespace zu::test

@@ -26,4 +26,7 @@ struct ProgramSetting
 ProgramResult runProgram(const std::string& program, const std::vector<std::string>& arguments,
                          const ProgramSetting& setting = {});
 
+/// The same without root's right to read and write whatever there is, should we have it. The files are still ours.
+ProgramResult runWithoutPrivileges(const std::string& program, const std::vector<std::string>& arguments);
+
 } // namespace zu::test
