@@ -6,8 +6,8 @@
 
 namespace zupackage::check {
 
-/// A language code in its parts: "zh-Hant-TW" is language "zh", script "Hant", region "TW". A language that extends another
-/// one ("yue" of "zh-yue"), variants and extensions are none of them.
+/// A language code in its parts: "zh-Hant-TW" is language "zh", script "Hant", region "TW". A language that extends
+/// another one ("yue" of "zh-yue"), variants and extensions are none of them.
 struct LanguageTag
 {
     std::string_view language; ///< empty when the tag is private use only ("x-robot"), or older than the syntax
@@ -17,8 +17,8 @@ struct LanguageTag
 };
 
 /// Takes a code apart by the syntax of BCP 47, with either hyphens or underscores between its parts.
-/// Codes that were registered before that syntax ("i-klingon", "en-GB-oed") are well-formed and have no parts. Languages
-/// of four letters and more, which nobody has, are refused.
+/// Codes that were registered before that syntax ("i-klingon", "en-GB-oed") are well-formed and have no parts.
+/// Languages of four letters and more, which nobody has, are refused.
 /// @return nothing when it is not well-formed, the empty code included. The parts refer to `code`.
 std::optional<LanguageTag> parseLanguageTag(std::string_view code);
 
