@@ -15,13 +15,12 @@ using zu::authoring::SourceTree;
 using zu::authoring::SourceTreeAccess;
 using zu::authoring::ValueKind;
 
-namespace {
-
-/// Comments and instructions have a value that is no text.
 bool isTextual(NodeKind kind)
 {
     return kind == NodeKind::Text || kind == NodeKind::CData || kind == NodeKind::EntityReference;
 }
+
+namespace {
 
 std::string_view sourceOf(SourceNode node, ByteRange range)
 {

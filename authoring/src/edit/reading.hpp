@@ -13,10 +13,14 @@
 namespace zupackage::edit {
 
 using zu::authoring::ElementEntry;
+using zu::authoring::NodeKind;
 using zu::authoring::SourceAttribute;
 using zu::authoring::SourceNode;
 
 using authoring::isBlank;
+
+/// Whether a node is text: comments and instructions have a value that is none.
+bool isTextual(NodeKind kind);
 
 /// Whether the reader takes a node in a list for an entry: all but white space is.
 bool counts(SourceNode node);

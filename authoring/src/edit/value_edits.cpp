@@ -1,5 +1,6 @@
 #include "edit/value_edits.hpp"
 
+#include "edit/reading.hpp"
 #include "edit/tokens.hpp"
 #include "edits.hpp"
 #include "source_tree.hpp"
@@ -77,11 +78,6 @@ bool fitsSection(std::string_view text, const SourceDocument& document)
     return text.find("]]>") == std::string_view::npos &&
            (hasEveryCharacter(document) ||
             std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; }));
-}
-
-bool isTextual(NodeKind kind)
-{
-    return kind == NodeKind::Text || kind == NodeKind::CData || kind == NodeKind::EntityReference;
 }
 
 /// All texts within the element, at any depth; loose white space that the reader drops alone is `blank`.
