@@ -1,17 +1,13 @@
 #include "support/files.hpp"
 #include "support/json_schema.hpp"
 #include "support/program.hpp"
-#include "support/texts.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 namespace zu {
 
 using test::ProgramResult;
-using test::replaced;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
@@ -41,16 +37,6 @@ protected:
 
     test::TemporaryFolder folder;
 };
-
-/// Each line behind the blanks that pages set it with.
-std::string indented(const std::string& text)
-{
-    std::istringstream lines(text);
-    std::string result;
-    for (std::string line; std::getline(lines, line);)
-        result += "    " + line + "\n";
-    return result;
-}
 
 } // namespace
 
@@ -153,22 +139,6 @@ TEST_F(DiffCommand, WhatCannotBeReadIsNamedWithItsReason)
     EXPECT_THAT(result.output, IsEmpty());
     EXPECT_EQ(result.errors, "zupackage: cannot read " + malformed + ": line 1, column 4: unexpected end of file\n" +
                                  "zupackage: cannot read " + absent + ": No such file or directory\n");
-}
-
-TEST_F(DiffCommand, SaysWhatThePagesShow)
-{
-    const std::string old = test::readFile(test::sourcePath("examples/packages/story-teller/manifest.xml"));
-    std::string now = replaced(old, "version=\"2.1.0\"", "version=\"2.2.0\"");
-    now = replaced(now, "  </names>", "  <name lang=\"es\">La hora del cuento</name></names>");
-    now = replaced(now, "It's story time", "Story time!");
-    const std::size_t topic = now.find("    <dialogContent");
-    const std::string topics = now.substr(topic, now.find("  </contents>") - topic);
-    const std::size_t second = topics.find("    <dialogContent", 1);
-    now.replace(topic, topics.size(), topics.substr(second) + topics.substr(0, second));
-
-    const std::string report = indented(diff({before(old), after(now)}).output);
-    for (const char* page : {"README.md", "docs/guide/editing.md"})
-        EXPECT_THAT(test::readFile(test::sourcePath(page)), HasSubstr(report));
 }
 
 TEST_F(DiffCommand, ComparesTwoManifests)
