@@ -23,8 +23,9 @@ struct SiteArguments
 };
 
 /// Adds the packages to the site.
+/// @param shown receives how many stand in it.
 /// @return what the program ends with.
-ExitCode addAll(const std::vector<std::string>& manifests, SiteWriter& site)
+ExitCode addAll(const std::vector<std::string>& manifests, SiteWriter& site, std::size_t& shown)
 {
     ExitCode result = k_success;
     std::size_t number = 0;
@@ -37,8 +38,10 @@ ExitCode addAll(const std::vector<std::string>& manifests, SiteWriter& site)
                 complain("cannot read " + article.name + ": " + article.failure);
                 result = k_inputFailed;
             }
-            if (article.isShown)
+            if (article.isShown) {
                 site.add(std::move(article), number);
+                ++shown;
+            }
             ++number;
             progress.advance();
             return true;
@@ -53,14 +56,23 @@ ExitCode makeSite(const SiteArguments& arguments)
         complain("name a folder with -o, or a file with --single");
         return k_usage;
     }
+    if (arguments.title.find_first_not_of(" \t\n") == std::string::npos) {
+        complain("--title: a site has no empty title");
+        return k_usage;
+    }
     ExitCode result = k_success;
     try {
         const std::unique_ptr<SiteWriter> site = arguments.file.empty()
                                                      ? folderSiteWriter(arguments.folder, arguments.title)
                                                      : singleFileSiteWriter(arguments.file, arguments.title);
         const std::vector<std::string> manifests = manifestsIn(arguments.sources, result);
-        result = worse(result, addAll(manifests, *site));
-        site->finish();
+        std::size_t shown = 0;
+        result = worse(result, addAll(manifests, *site, shown));
+        // A mistyped source must not put an empty site in the place of a good one.
+        if (shown == 0)
+            complain("there is no package to show; nothing is written");
+        else
+            site->finish();
     } catch (const SettingsError& error) {
         complain(error.what());
         return k_usage;

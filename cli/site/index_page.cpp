@@ -1,6 +1,7 @@
 #include "site/index_page.hpp"
 
 #include "site/package_page.hpp"
+#include "site/short_text.hpp"
 
 #include <QtCore/QString>
 
@@ -10,15 +11,19 @@ namespace zu::cli {
 
 namespace {
 
-// What a card shows of each facet, and what can be filtered by. More is not a package but an attack.
+// What a card shows of each facet, and what can be filtered by. More is not a package but an attack, which would spoil
+// the list for all others.
 constexpr std::size_t k_mostChips = 60;
+constexpr std::size_t k_longestChip = 60;
+constexpr std::size_t k_longestSummary = 600;
+constexpr std::size_t k_longestSearched = 32'000; // bytes
 
 std::set<std::string> robotsOf(const PackageInfo& package)
 {
     std::set<std::string> robots;
     for (const RobotRequirement& robot : package.robotRequirements()) {
         if (!robot.model.empty() && robots.size() < k_mostChips)
-            robots.insert(robot.model);
+            robots.insert(shortText(robot.model, k_longestChip));
     }
     return robots;
 }
@@ -28,8 +33,8 @@ std::set<std::string> permissionsOf(const PackageInfo& package)
     std::set<std::string> permissions;
     for (const BehaviorInfo& behavior : package.behaviors()) {
         for (const std::string& permission : behavior.permissions()) {
-            if (permissions.size() < k_mostChips)
-                permissions.insert(permission);
+            if (!permission.empty() && permissions.size() < k_mostChips)
+                permissions.insert(shortText(permission, k_longestChip));
         }
     }
     return permissions;
@@ -37,8 +42,12 @@ std::set<std::string> permissionsOf(const PackageInfo& package)
 
 std::set<std::string> languagesOf(const SitePackage& package)
 {
-    const std::vector<std::string> offered = offeredLanguages(package);
-    return {offered.begin(), offered.begin() + static_cast<std::ptrdiff_t>(std::min(offered.size(), k_mostChips))};
+    std::set<std::string> languages;
+    for (const std::string& language : offeredLanguages(package)) {
+        if (languages.size() < k_mostChips)
+            languages.insert(shortText(language, k_longestChip));
+    }
+    return languages;
 }
 
 /// The facet's values, which the script filters by.
@@ -54,21 +63,24 @@ Html chips(const char* facet, std::string_view label, const std::set<std::string
 }
 
 /// What people may look for beyond what the card shows.
-Html searchedText(const PackageInfo& package)
+std::string searchedText(const PackageInfo& package)
 {
-    Html html;
-    html << package.uuid() << " "_html << package.author() << " "_html << package.organization();
+    std::string searched;
+    const auto add = [&searched](const std::string& text) {
+        if (searched.size() < k_longestSearched)
+            searched += (searched.empty() ? "" : " ") + shortText(text);
+    };
+    for (const std::string& text : {package.uuid(), package.author(), package.organization()})
+        add(text);
     for (const auto& [language, name] : package.names())
-        html << " "_html << name;
+        add(name);
     for (const BehaviorInfo& behavior : package.behaviors()) {
         for (const auto& [language, name] : behavior.names())
-            html << " "_html << name;
-        for (const auto& [language, tags] : behavior.languagesToTags()) {
-            for (const std::string& tag : tags)
-                html << " "_html << tag;
-        }
+            add(name);
+        for (const auto& [language, tags] : behavior.languagesToTags())
+            std::for_each(tags.begin(), tags.end(), add);
     }
-    return html;
+    return searched;
 }
 
 /// The card up to the address of the package's page.
@@ -88,13 +100,13 @@ Html cardEnd(const SitePackage& package, const Html& facets)
         html << languageAttributes(package.titleLanguage);
     html << ">"_html << package.title << "</a></h2>\n<p class=\"badges\">"_html;
     if (!info.version().empty())
-        html << "<span class=\"badge\">"_html << info.version() << "</span> "_html;
+        html << "<span class=\"badge\">"_html << shortText(info.version(), k_longestChip) << "</span> "_html;
     if (!info.channel().empty())
-        html << "<span class=\"badge\">"_html << info.channel() << "</span> "_html;
+        html << "<span class=\"badge\">"_html << shortText(info.channel(), k_longestChip) << "</span> "_html;
     html << findingsBadge(package.checked) << "</p>\n"_html;
     if (const auto* text = preferredText(info.descriptions(), info))
-        html << "<p class=\"summary\""_html << languageAttributes(text->first) << ">"_html << text->second
-             << "</p>\n"_html;
+        html << "<p class=\"summary\""_html << languageAttributes(text->first) << ">"_html
+             << shortText(text->second, k_longestSummary) << "</p>\n"_html;
     if (!facets.isEmpty())
         html << "<dl class=\"facets\">\n"_html << facets << "</dl>\n"_html;
     return html << "</li>\n"_html;
@@ -105,8 +117,9 @@ Html selection(const char* facet, std::string_view label, std::string_view any, 
     Html html;
     html << "<div><label for=\"filter-"_html << facet << "\">"_html << label << "</label>\n<select id=\"filter-"_html
          << facet << "\" data-filter=\""_html << facet << "\"><option value=\"\">"_html << any << "</option>"_html;
+    // Without a value of its own, an option has its text without the blanks that browsers do not show.
     for (const std::string& value : values)
-        html << "<option>"_html << value << "</option>"_html;
+        html << "<option value=\""_html << value << "\">"_html << value << "</option>"_html;
     return html << "</select></div>\n"_html;
 }
 

@@ -1,4 +1,5 @@
 #include "site/package_page.hpp"
+#include "site/short_text.hpp"
 
 namespace zu::cli {
 
@@ -67,9 +68,10 @@ Html behaviorItem(const BehaviorInfo& behavior, const SitePackage& package, cons
     Html title;
     const auto* name = preferredText(behavior.names(), package.package);
     if (name)
-        title << "<span"_html << languageAttributes(name->first) << ">"_html << name->second << "</span>"_html;
+        title << "<span"_html << languageAttributes(name->first) << ">"_html << shortText(name->second)
+              << "</span>"_html;
     else
-        title << (behavior.path().empty() ? std::string("A behavior without a path") : behavior.path());
+        title << (behavior.path().empty() ? std::string("A behavior without a path") : shortText(behavior.path()));
     Html html;
     html << "<li class=\"item\">\n"_html << heading(2, title, place) << "<p class=\"path\"><code>"_html
          << behavior.path() << "</code></p>\n<p class=\"badges\">"_html;
@@ -118,7 +120,7 @@ Html dialogsSection(const SitePackage& package, const PagePlace& place)
     html << sectionStart("dialogs", "Dialogs", place) << "<ul class=\"items\">\n"_html;
     for (const DialogInfo& dialog : package.package.dialogs()) {
         Html title;
-        title << (dialog.topicName().empty() ? std::string("A dialog without a name") : dialog.topicName());
+        title << (dialog.topicName().empty() ? std::string("A dialog without a name") : shortText(dialog.topicName()));
         html << "<li class=\"item\">\n"_html << heading(2, title, place) << "<dl>\n"_html
              << fact("Version of the topic files", dialog.typeVersion());
         for (const auto& [language, path] : dialog.topics())

@@ -29,10 +29,12 @@ std::string safeName(const std::string& identifier)
 std::string PageNames::next(const std::string& identifier)
 {
     const std::string name = safeName(identifier);
-    std::string page = name + ".html";
-    for (int number = 2; !m_taken.insert(page).second; ++number)
-        page = name + "-" + std::to_string(number) + ".html";
-    return page;
+    std::size_t& number = m_lastNumbers[name];
+    for (;;) {
+        std::string page = ++number == 1 ? name + ".html" : name + "-" + std::to_string(number) + ".html";
+        if (m_taken.insert(page).second)
+            return page;
+    }
 }
 
 } // namespace zu::cli

@@ -1,7 +1,9 @@
 #pragma once
 
-#include <set>
+#include <cstddef>
 #include <string>
+#include <unordered_map>
+#include <unordered_set>
 
 namespace zu::cli {
 
@@ -14,7 +16,8 @@ public:
     std::string next(const std::string& identifier);
 
 private:
-    std::set<std::string> m_taken;
+    std::unordered_set<std::string> m_taken;
+    std::unordered_map<std::string, std::size_t> m_lastNumbers; ///< by the name that they are behind
 };
 
 } // namespace zu::cli

@@ -63,7 +63,8 @@ SiteFolder::SiteFolder(const std::string& path)
                             "\", which is of no site; choose a folder for the site alone");
         fs::create_directories(m_path.parent_path());
         const fs::path draft = draftOf(m_path, "new");
-        if (!fs::create_directory(draft))
+        // Open to nobody whom the earlier folder is closed to.
+        if (!(fs::exists(m_path) ? fs::create_directory(draft, m_path) : fs::create_directory(draft)))
             throw SiteError(draft.string() + " is there already");
         m_draft = draft;
     } catch (const fs::filesystem_error& error) {
@@ -103,8 +104,10 @@ void SiteFolder::publish()
     try {
         const fs::path earlier = draftOf(m_path, "old");
         const bool isReplaced = fs::exists(m_path);
-        if (isReplaced)
+        if (isReplaced) {
+            fs::permissions(m_draft, fs::status(m_path).permissions());
             fs::rename(m_path, earlier);
+        }
         std::error_code error;
         fs::rename(m_draft, m_path, error);
         if (error) {

@@ -19,7 +19,8 @@ public:
 /// ever sees half of them, and nothing is changed when something goes wrong.
 ///
 /// A folder that is there must be empty or hold the files of an earlier site, and nothing else: which these are stands
-/// in its file ".zupackage-site". Files of others are never touched.
+/// in its file ".zupackage-site". Files of others are never touched. Who may open that folder may open the new one, and
+/// nobody else, also while it is written.
 class SiteFolder
 {
 public:

@@ -1,5 +1,7 @@
 #include "site/site_package.hpp"
 
+#include "site/short_text.hpp"
+
 #include <QtCore/QString>
 
 #include <filesystem>
@@ -23,10 +25,10 @@ std::string folderNameOf(const std::string& path)
 void setTitle(SitePackage& package, const std::string& path)
 {
     if (const auto* name = preferredText(package.package.names(), package.package)) {
-        package.title = name->second;
+        package.title = shortText(name->second);
         package.titleLanguage = name->first;
     } else {
-        package.title = isBlank(package.package.uuid()) ? folderNameOf(path) : package.package.uuid();
+        package.title = shortText(isBlank(package.package.uuid()) ? folderNameOf(path) : package.package.uuid());
     }
 }
 

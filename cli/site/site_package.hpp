@@ -17,7 +17,7 @@ struct SitePackage
     std::string refusal;     ///< why the manifest is read as no package; empty when it is one
     PackageInfo package;
     authoring::LanguageMatrix matrix;
-    std::string title;
+    std::string title;         ///< cut when nobody would read it to its end
     std::string titleLanguage; ///< empty for a title that is no name
 
     /// What its page is called by: the uuid, or, without one, the title.

@@ -136,6 +136,56 @@ TEST_F(SiteCommand, WhatIsNoPackageHasAPageThatSaysWhy)
     EXPECT_THAT(page("index.html"), HasSubstr("org.good"));
 }
 
+TEST_F(SiteCommand, WithoutAnyPackageWhatIsThereStaysAsItIs)
+{
+    manifest("a", "<package uuid=\"org.a\"/>");
+    fs::create_directory(folder.path() / "empty");
+    const std::string single = folder.file("one.html", "published");
+    ASSERT_EQ(site({packages, "-o", out}).exitCode, 0);
+    const auto published = files();
+    for (const std::string& source : {packages + "/typo", (folder.path() / "empty").string()}) {
+        const ProgramResult result = site({source, "-o", out});
+        EXPECT_EQ(result.exitCode, 3);
+        EXPECT_THAT(result.errors, HasSubstr("zupackage: there is no package to show; nothing is written\n"));
+        EXPECT_EQ(files(), published);
+        EXPECT_EQ(site({source, "--single", single}).exitCode, 3);
+        EXPECT_EQ(test::readFile(single), "published");
+    }
+}
+
+TEST_F(SiteCommand, AnEmptyTitleIsWrongUsage)
+{
+    manifest("a", "<package uuid=\"org.a\"/>");
+    const ProgramResult result = site({packages, "-o", out, "--title", " "});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_EQ(result.errors, "zupackage: --title: a site has no empty title\n");
+    EXPECT_FALSE(fs::exists(out));
+}
+
+TEST_F(SiteCommand, OnePackageWithLongTextsDoesNotSpoilTheList)
+{
+    const std::string huge(200'000, 'x');
+    manifest("a", "<package uuid=\"" + huge + "\" version=\"" + huge + "\" author=\"" + huge +
+                      "\"><names><name lang=\"en\">" + huge + "</name></names><descriptions><description lang=\"en\">" +
+                      huge + "</description></descriptions><contents><behaviorContent path=\"" + huge +
+                      "\"><tags><tag lang=\"en\">" + huge +
+                      "</tag></tags></behaviorContent></contents><requirements><robotRequirement model=\"" + huge +
+                      "\"/></requirements></package>");
+    ASSERT_EQ(site({packages, "-o", out}).exitCode, 0);
+    EXPECT_LT(page("index.html").size(), 20'000U);
+    EXPECT_THAT(page("packages/" + std::string(80, 'x') + ".html"),
+                HasSubstr("<h1><span lang=\"en\" dir=\"auto\">" + std::string(299, 'x') + "…</span></h1>"));
+}
+
+TEST_F(SiteCommand, FiltersByValuesAsTheyStand)
+{
+    manifest("a", "<package uuid=\"org.a\"><requirements><robotRequirement model=\"Brindle  7 \"/></requirements>"
+                  "</package>");
+    ASSERT_EQ(site({packages, "-o", out}).exitCode, 0);
+    EXPECT_THAT(page("index.html"), HasSubstr("<option value=\"Brindle  7 \">Brindle  7 </option>"));
+    EXPECT_THAT(page("index.html"), HasSubstr("<li>Brindle  7 </li>"));
+}
+
 TEST_F(SiteCommand, NeedsExactlyOnePlaceForItsOutput)
 {
     EXPECT_EQ(site({packages}).exitCode, 2);

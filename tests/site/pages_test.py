@@ -26,11 +26,16 @@ class Pages(unittest.TestCase):
         cls.temporary = tempfile.TemporaryDirectory()
         folder = pathlib.Path(cls.temporary.name)
         hostile_packages.write(folder / "hostile")
+        blanks = folder / "blanks"
+        blanks.mkdir()
+        (blanks / "manifest.xml").write_text("<package uuid='org.blanks'><requirements>"
+                                             "<robotRequirement model='Brindle  7 '/></requirements></package>")
+        cls.blanks = folder / "blanks site"
         examples = str(ROOT / "examples" / "packages")
         cls.site, cls.single = folder / "site", folder / "single.html"
         cls.hostile, cls.hostile_single = folder / "hostile site", folder / "hostile.html"
         for source, arguments, code in ((examples, ["-o", cls.site], 0), (examples, ["--single", cls.single], 0),
-                                        (folder / "hostile", ["-o", cls.hostile], 3),
+                                        (blanks, ["-o", cls.blanks], 0), (folder / "hostile", ["-o", cls.hostile], 3),
                                         (folder / "hostile", ["--single", cls.hostile_single], 3)):
             made = subprocess.run([TOOL, "site", source, *arguments], stderr=subprocess.DEVNULL)
             assert made.returncode == code, made
@@ -97,6 +102,11 @@ class Pages(unittest.TestCase):
         self.browser.implicitly_wait(0)
         self.assertEqual(self.run_script("return new Promise((done) => setTimeout(() => done("
                                          "document.querySelectorAll('.card:not([hidden])').length)))"), 3)
+
+    def test_filters_take_values_with_blanks_as_they_stand(self):
+        self.show(self.blanks / "index.html")
+        self.filter("robot", "Brindle 7")
+        self.assertEqual(self.shown_packages(), ["org.blanks"])
 
     def test_cards_lead_to_the_pages_of_packages(self):
         self.show(self.site / "index.html")

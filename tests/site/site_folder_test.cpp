@@ -90,6 +90,21 @@ TEST_F(SiteFolderTest, NeverTouchesFilesOfOthers)
     EXPECT_THAT(entries(), ElementsAre("site", "site/.zupackage-site", "site/a.html"));
 }
 
+TEST_F(SiteFolderTest, IsOpenToNobodyElseThanTheEarlierSite)
+{
+    publish("old.html");
+    fs::permissions(site, fs::perms::owner_all);
+    SiteFolder folder(site);
+    folder.add("a.html", "content");
+    for (const auto& entry : fs::directory_iterator(temporary.path()))
+        EXPECT_EQ(entry.status().permissions(), fs::perms::owner_all) << entry.path();
+    folder.publish();
+    EXPECT_EQ(fs::status(site).permissions(), fs::perms::owner_all);
+    fs::permissions(site, fs::perms::all);
+    publish("b.html");
+    EXPECT_EQ(fs::status(site).permissions(), fs::perms::all);
+}
+
 TEST_F(SiteFolderTest, IsNoFile)
 {
     temporary.file("site", "mine");
