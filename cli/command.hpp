@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -45,6 +46,9 @@ public:
 
     /// An option with a value; without it `value` stays as it is.
     void option(std::string& value, const char* name, const char* type, const char* help);
+
+    /// The same where an empty value is not as good as none.
+    void option(std::optional<std::string>& value, const char* name, const char* type, const char* help);
 
     /// An option whose value is one of those; without it `value`, which must be one of them, stays as it is.
     void choice(std::string& value, const char* name, const std::vector<std::string>& choices, const char* help);

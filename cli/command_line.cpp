@@ -204,6 +204,15 @@ void Arguments::option(std::string& value, const char* name, const char* type, c
     m_parser.add_option(name, value, help)->type_name(type);
 }
 
+void Arguments::option(std::optional<std::string>& value, const char* name, const char* type, const char* help)
+{
+    // The parser takes an empty text for no value.
+    m_parser
+        .add_option_function<std::string>(
+            name, [&value](const std::string& text) { value = text; }, help)
+        ->type_name(type);
+}
+
 void Arguments::choice(std::string& value, const char* name, const std::vector<std::string>& choices, const char* help)
 {
     m_parser.add_option(name, value, help)->check(CLI::IsMember(choices))->type_name("WHICH")->capture_default_str();

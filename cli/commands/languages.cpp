@@ -17,22 +17,23 @@ struct LanguagesArguments
 {
     std::vector<std::string> sources;
     std::string format = "text";
-    std::string required;
-    std::string failUnder;
+    std::optional<std::string> required;
+    std::optional<std::string> failUnder;
     std::string colour = "auto";
 };
 
-/// The codes in "en,fr"; empty ones are left out.
-std::vector<std::string> codesIn(const std::string& list)
+/// The codes in "en,fr".
+/// @return false when one of them is empty: a variable that should hold it is not set, and nothing would be required.
+bool readCodes(const std::string& list, std::vector<std::string>& codes)
 {
-    std::vector<std::string> codes;
     for (std::size_t begin = 0; begin <= list.size();) {
         const std::size_t end = std::min(list.find(',', begin), list.size());
-        if (end > begin)
-            codes.push_back(list.substr(begin, end - begin));
+        if (end == begin)
+            return false;
+        codes.push_back(list.substr(begin, end - begin));
         begin = end + 1;
     }
-    return codes;
+    return true;
 }
 
 /// @return false for what is no whole number from 0 to 100.
@@ -60,6 +61,8 @@ ExitCode judge(const ManifestLanguages& manifest, const LanguageGate& gate)
         complain("cannot read " + manifest.path + ": " + manifest.failure);
         return k_inputFailed;
     }
+    if (gate.hasNothingToJudge(manifest.matrix))
+        complain("warning: " + manifest.path + " declares no language, so that --fail-under has nothing to judge");
     ExitCode result = k_success;
     for (const authoring::MatrixLanguage& language : manifest.matrix.languages) {
         if (!gate.isMissedBy(language))
@@ -96,11 +99,15 @@ ExitCode report(const LanguagesArguments& arguments, const LanguageGate& gate)
 ExitCode languages(const LanguagesArguments& arguments)
 {
     LanguageGate gate;
-    gate.required = codesIn(arguments.required);
-    if (!gate.required.empty())
+    if (arguments.required) {
         gate.failUnder = 100;
-    if (!arguments.failUnder.empty() && !readPercent(arguments.failUnder, gate.failUnder)) {
-        complain("--fail-under: \"" + arguments.failUnder + "\" is no whole number from 0 to 100");
+        if (!readCodes(*arguments.required, gate.required)) {
+            complain("--require: there is an empty code in \"" + *arguments.required + "\"");
+            return k_usage;
+        }
+    }
+    if (arguments.failUnder && !readPercent(*arguments.failUnder, gate.failUnder)) {
+        complain("--fail-under: \"" + *arguments.failUnder + "\" is no whole number from 0 to 100");
         return k_usage;
     }
     return report(arguments, gate);

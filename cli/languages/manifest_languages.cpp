@@ -17,6 +17,12 @@ bool LanguageGate::isMissedBy(const authoring::MatrixLanguage& language) const
     return isMeant && language.coverage.percent() < failUnder;
 }
 
+bool LanguageGate::hasNothingToJudge(const authoring::LanguageMatrix& matrix) const
+{
+    return failUnder > 0 && std::all_of(matrix.languages.begin(), matrix.languages.end(),
+                                        [](const auto& language) { return language.isStray(); });
+}
+
 ManifestLanguages languagesOf(const std::string& path, const std::vector<std::string>& required)
 {
     ManifestLanguages languages;

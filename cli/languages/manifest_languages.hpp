@@ -16,6 +16,8 @@ struct LanguageGate
 
     /// Whether the language has less than is demanded of it.
     bool isMissedBy(const authoring::MatrixLanguage& language) const;
+    /// Whether something is demanded, and of no language of the package.
+    bool hasNothingToJudge(const authoring::LanguageMatrix& matrix) const;
 };
 
 /// The languages of one manifest.

@@ -178,6 +178,28 @@ TEST_F(LanguagesCommand, GoesOnAfterAManifestThatCannotBeRead)
     EXPECT_THAT(result.output, HasSubstr("dialog hello\n"));
 }
 
+TEST_F(LanguagesCommand, AGateWithoutAValueIsWrongUsage)
+{
+    const std::string path = manifest(k_greeter);
+    for (const char* codes : {"", ",", "en,,fr", "en,"}) {
+        const ProgramResult result = languages({"--require", codes, path});
+        EXPECT_EQ(result.exitCode, 2) << codes;
+        EXPECT_EQ(result.errors, "zupackage: --require: there is an empty code in \"" + std::string(codes) + "\"\n");
+    }
+    EXPECT_EQ(languages({"--fail-under", "", path}).exitCode, 2);
+}
+
+TEST_F(LanguagesCommand, SaysWhenThereIsNoLanguageToJudge)
+{
+    const std::string path = manifest("<package><names><name lang=\"en\">N</name></names></package>");
+    const ProgramResult result = languages({"--fail-under", "95", path});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.errors,
+              "zupackage: warning: " + path + " declares no language, so that --fail-under has nothing to judge\n");
+    EXPECT_EQ(languages({"--fail-under", "95", "--require", "en", path}).errors, "");
+    EXPECT_EQ(languages({path}).errors, "");
+}
+
 TEST_F(LanguagesCommand, AFolderWithoutAnyManifestIsAnError)
 {
     EXPECT_EQ(languages({folder.path().string()}).exitCode, 3);
