@@ -22,7 +22,7 @@ struct ConvertArguments
 {
     std::string source;
     std::string to;
-    std::string output;
+    std::string output = "-";
 };
 
 /// The package in a file of JSON. Standard error says why there is none.
@@ -61,7 +61,7 @@ ExitCode convert(const ConvertArguments& arguments)
     const std::optional<std::string> text = converted(arguments);
     if (!text)
         return k_inputFailed;
-    if (arguments.output.empty())
+    if (arguments.output == "-")
         return writeOutput(*text) ? k_success : k_outputFailed;
     try {
         replaceManifest(arguments.output, *text);
@@ -79,7 +79,8 @@ std::function<ExitCode()> prepare(Arguments& arguments)
         parsed->source, "SOURCE", "FILE|FOLDER|-",
         "A manifest, or one in JSON; of a folder its manifest.xml or manifest.json; - for standard input");
     arguments.requireChoice(parsed->to, "--to", {k_json, k_xml}, "What to make of it: json or xml");
-    arguments.option(parsed->output, "-o,--output", "FILE", "The file to replace; by default standard output");
+    arguments.option(parsed->output, "-o,--output", "FILE",
+                     "The file to replace, or - for standard output, which it is by default");
     return [parsed] { return convert(*parsed); };
 }
 

@@ -46,6 +46,15 @@ TEST(Convert, AFileIsReplacedAndAFolderHasItsManifestInIt)
     EXPECT_EQ(run({"show", folder.path().string()}).output, run({"show", examplePath("story-teller")}).output);
 }
 
+TEST(Convert, ADashIsStandardOutput)
+{
+    const std::vector<std::string> arguments = {"convert", "--to", "json", examplePath("story-teller")};
+    std::vector<std::string> withDash = arguments;
+    withDash.insert(withDash.end(), {"-o", "-"});
+    EXPECT_EQ(run(withDash).output, run(arguments).output);
+    EXPECT_FALSE(std::filesystem::exists("-"));
+}
+
 TEST(Convert, WhatCannotBeReadIsToldAndEndsWithThree)
 {
     const test::ProgramResult json = run({"convert", "--to", "xml", "-"}, "{\"format_version\": 1,\n\"names\": 1}");

@@ -13,10 +13,14 @@ using zu::authoring::Occurrence;
 using zu::authoring::ValueKind;
 
 constexpr std::string_view k_forForbidden = "\xEF\xBF\xBD";
+constexpr std::string_view k_byteOrderMark = "\xEF\xBB\xBF";
 
-/// The text, which is UTF-8, with U+FFFD for what XML cannot carry.
+/// The text, which is UTF-8, as a manifest carries it: with U+FFFD for what XML cannot, and without byte order marks
+/// before it.
 std::string carriable(std::string_view text)
 {
+    while (text.substr(0, k_byteOrderMark.size()) == k_byteOrderMark)
+        text.remove_prefix(k_byteOrderMark.size());
     std::string result;
     result.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -168,9 +172,17 @@ void ElementBuilder::key(const std::string& name)
 {
     Level& level = m_levels.back();
     level.key = name;
-    if (!level.keys.insert(name).second)
-        throw JsonRefusal("the key " + check::inQuotes(name) + " stands there twice");
+    level.hasKey = true;
+    refuseRepetition(level, "the key ", name);
     m_member = memberOf(level, name);
+}
+
+void ElementBuilder::refuseRepetition(Level& level, const char* what, std::string_view text)
+{
+    const std::string carried = carriable(text);
+    if (!level.taken.insert(carried).second)
+        throw JsonRefusal(what + check::inQuotes(text) + " stands there twice" +
+                          (carried == text ? "" : ", as a manifest carries it"));
 }
 
 void ElementBuilder::startObject()
@@ -215,6 +227,9 @@ void ElementBuilder::end()
 
 void ElementBuilder::addValue(const Slot& slot, std::string_view text)
 {
+    // Of these readers keep the first alone.
+    if (slot.entry->identity == k_ownText)
+        refuseRepetition(m_levels.back(), "the entry ", text);
     PackageElement& child = addChild(slot);
     if (slot.role == Role::Value) {
         spend(slot.key.size());
@@ -229,6 +244,7 @@ void ElementBuilder::addName(const Slot& slot, std::string_view name)
     const ElementEntry* const entry = slot.entry->child(name);
     if (!entry)
         refuseUnknown("the name", name, memberNames(*slot.entry));
+    refuseRepetition(m_levels.back(), "the entry ", name);
     addChild({Role::Child, slot.parent, entry});
 }
 
@@ -275,7 +291,7 @@ std::string ElementBuilder::pointer() const
 {
     std::string pointer;
     for (const Level& level : m_levels) {
-        if (level.isObject && !level.keys.empty())
+        if (level.isObject && level.hasKey)
             appendStep(pointer, level.key);
         else if (!level.isObject && level.count != 0)
             appendStep(pointer, std::to_string(level.count - 1));

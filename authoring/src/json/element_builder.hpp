@@ -4,7 +4,6 @@
 #include "package/package_element.hpp"
 
 #include <cstddef>
-#include <functional>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -73,9 +72,10 @@ private:
         Slot members; ///< what each value in it is; of an object that is an element a Child, and the entry its own
         bool isObject;
         bool isElement;
-        std::string key{};     ///< that was read last, of an object
-        std::size_t count = 0; ///< of the values that were begun, of a list
-        std::set<std::string, std::less<>> keys{};
+        std::string key{}; ///< that was read last, of an object
+        bool hasKey = false;
+        std::size_t count = 0;         ///< of the values that were begun, of a list
+        std::set<std::string> taken{}; ///< the keys of an object, the entries of a list of which each stands there once
     };
 
     static const char* wanted(const Slot& slot);
@@ -86,6 +86,7 @@ private:
     PackageElement& addChild(const Slot& slot);
     void addValue(const Slot& slot, std::string_view text);
     void addName(const Slot& slot, std::string_view name);
+    static void refuseRepetition(Level& level, const char* what, std::string_view text);
     void open(Slot members, bool isObject, bool isElement = false);
     void spend(std::size_t bytes);
 

@@ -15,6 +15,8 @@ using zu::authoring::PackageJsonError;
 using zu::authoring::Place;
 
 constexpr std::string_view k_utf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view k_betweenTokens = " \t\r\n,:";
+constexpr char k_hasZeroByte[] = "is no JSON: there is a zero byte";
 
 std::size_t beginOf(std::string_view text)
 {
@@ -92,6 +94,9 @@ public:
         } catch (const JsonRefusal& refusal) {
             fail(m_begin, refusal.what());
         }
+        // The parser takes a zero byte for the end of the text.
+        if (const std::size_t zero = m_text.find('\0'); zero != std::string_view::npos)
+            fail(zero, k_hasZeroByte);
         return m_builder.root();
     }
 
@@ -134,7 +139,10 @@ public:
 
     bool parse_error(std::size_t position, const std::string&, const nlohmann::json::exception& error)
     {
-        fail(position == 0 ? 0 : position - 1, reasonIn(error.what()));
+        if (dynamic_cast<const nlohmann::json::out_of_range*>(&error))
+            fail(m_text.find_first_not_of(k_betweenTokens, m_end), "is a number that is too large");
+        const std::size_t offset = position == 0 ? 0 : position - 1;
+        fail(offset, offset < m_text.size() && m_text[offset] == '\0' ? k_hasZeroByte : reasonIn(error.what()));
     }
 
 private:
@@ -142,7 +150,7 @@ private:
     template <class Tell>
     bool take(Tell tell)
     {
-        m_begin = std::min(m_text.find_first_not_of(" \t\r\n,:", m_end), m_read);
+        m_begin = std::min(m_text.find_first_not_of(k_betweenTokens, m_end), m_read);
         m_end = m_read;
         tell();
         return true;

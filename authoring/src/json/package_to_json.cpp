@@ -3,7 +3,9 @@
 
 #include <zupackage/authoring/package_json.hpp>
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
+#include <set>
 
 namespace zupackage::authoring {
 
@@ -144,6 +146,16 @@ bool hasDisorderedKeys(const PackageElement& element)
     return false;
 }
 
+/// Whether an entry stands twice in a list of which readers keep each but once.
+bool hasRepeatedEntries(const PackageElement& element)
+{
+    std::set<std::pair<const ElementEntry*, std::string_view>> entries;
+    return std::any_of(element.children.begin(), element.children.end(), [&entries](const PackageElement& child) {
+        const bool isKeptOnce = child.entry->identity == k_ownText || formOf(*child.entry) == JsonForm::Presence;
+        return (isKeptOnce && !entries.emplace(child.entry, child.text).second) || hasRepeatedEntries(child);
+    });
+}
+
 } // namespace
 
 } // namespace zupackage::authoring
@@ -154,8 +166,8 @@ std::string toJson(const PackageInfo& package)
 {
     using namespace zupackage::authoring;
     PackageElement root = elementOf(package);
-    // What becomes of equal keys is the reader's to say.
-    if (hasDisorderedKeys(root))
+    // What becomes of equal keys and entries is the reader's to say.
+    if (hasDisorderedKeys(root) || hasRepeatedEntries(root))
         root = elementOf(packageOf(root));
     ordered_json json = ordered_json::object();
     add(json, k_formatVersionKey, k_formatVersion);

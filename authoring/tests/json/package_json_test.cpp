@@ -58,6 +58,8 @@ TEST(PackageToJson, KeysThatBecomeEqualAreReadAsTheManifestIs)
     PackageService service;
     service.envVars = {{"\x80", "first"}, {"\x81", "second"}};
     package.addService(service);
+    package.addSupportedLanguage("\x80");
+    package.addSupportedLanguage("\x81");
     EXPECT_EQ(toJson(package), toJson(packageFrom(written(package))));
     EXPECT_EQ(describe(packageFromJson(toJson(package))), describe(packageFrom(written(package))));
 }
@@ -145,6 +147,18 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{R"("uuid": "u", "uuid": "u"})", "line 2, column 15, at \"/uuid\": the key \"uuid\" stands there twice"},
         Refusal{R"("names": {"en": "a", "en": "b"}})",
                 "line 2, column 23, at \"/names/en\": the key \"en\" stands there twice"},
+        Refusal{R"("names": {"\u0001": "a", "\u0002": "b"}})",
+                "line 2, column 27, at \"/names/\xef\xbf\xbd\": the key \"\xef\xbf\xbd\" stands there twice, as a "
+                "manifest carries it"},
+        Refusal{R"("supportedLanguages": ["en", "fr", "en"]})",
+                "line 2, column 37, at \"/supportedLanguages/2\": the entry \"en\" stands there twice"},
+        Refusal{R"("descriptionLanguages": ["en", "\ufeffen"]})",
+                "line 2, column 33, at \"/descriptionLanguages/1\": the entry \"\xef\xbb\xbf"
+                "en\" stands there twice, as a manifest carries it"},
+        Refusal{R"("contents": {"behaviorContent": [{"permissions": ["canSitDown", "canSitDown"]}]}})",
+                "line 2, column 66, at \"/contents/behaviorContent/0/permissions/1\": the entry \"canSitDown\" stands "
+                "there twice"},
+        Refusal{R"("version": 1e999})", "line 2, column 13, at \"/version\": is a number that is too large"},
         Refusal{R"("names": {"a/b~": 1}})", "line 2, column 20, at \"/names/a~1b~0\": must be a string, not a number"},
         Refusal{R"("names": ["en"]})", "line 2, column 11, at \"/names\": must be an object, not a list"},
         Refusal{R"("services": {}})", "line 2, column 14, at \"/services\": must be a list, not an object"},
@@ -196,6 +210,30 @@ INSTANTIATE_TEST_SUITE_P(
                 "line 1, column 11, at \"/uuid\": is no JSON: invalid string: ill-formed UTF-8 byte"},
         Refusal{"{\"a - b; last read", "line 1, column 19: is no JSON: invalid string: missing closing quote"},
         Refusal{"{\"format_version\": 1} x", "line 1, column 23: is no JSON: invalid literal"}));
+
+TEST(PackageFromJson, AZeroByteEndsNoText)
+{
+    using namespace std::string_literals;
+    const std::string document = "{\"format_version\":1}";
+    for (const std::string& json : {document + "\0"s, document + "\n\0 garbage {{{"s, "{\"format_version\":\0 1}"s}) {
+        try {
+            packageFromJson(json);
+            ADD_FAILURE() << "was read";
+        } catch (const PackageJsonError& error) {
+            EXPECT_EQ(error.reason(), "is no JSON: there is a zero byte");
+            EXPECT_EQ(error.place().line, json.find('\n') < json.size() ? 2u : 1u);
+        }
+    }
+}
+
+TEST(PackageFromJson, EntriesThatReadersKeepTwiceStandThereTwice)
+{
+    const PackageInfo package = packageFromJson(R"({"format_version": 1, "executableFiles": ["a", "a"],
+        "contents": {"behaviorContent": [{"path": "b", "tags": {"en": ["t", "t"]}}, {"path": "b"}]}})");
+    EXPECT_EQ(package.executableFiles().size(), 2u);
+    EXPECT_EQ(package.behaviors().size(), 2u);
+    EXPECT_EQ(package.behaviors().front().languagesToTags().at("en").size(), 2u);
+}
 
 TEST(PackageFromJson, ErrorsAreDataToo)
 {

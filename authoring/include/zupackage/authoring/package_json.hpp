@@ -57,18 +57,19 @@ private:
 /// What PackageInfo::saveToManifestContent() leaves out or replaces is left out or replaced here, too: installer, path
 /// and empty texts are not there, and what XML cannot carry or is no UTF-8 is U+FFFD.
 ///
-/// Throws std::runtime_error in one case: keys of a map have become equal by U+FFFD, so that the manifest must tell
+/// Throws std::runtime_error in one case: keys or languages have become equal by U+FFFD, so that the manifest must tell
 /// what becomes of them, and is larger than those that are read. May be called by several threads at once, on packages
 /// of their own.
 ZUPACKAGE_AUTHORING_EXPORT std::string toJson(const PackageInfo& package);
 
 /// The package that toJson() wrote. What is absent stays empty, members may stand in any order, null is no value.
-/// Characters that XML cannot carry become U+FFFD.
+/// Characters that XML cannot carry become U+FFFD, byte order marks before a text vanish.
 ///
 /// Throws authoring::PackageJsonError when the text is no JSON or no UTF-8, when it has a key that is unknown or stands
-/// there twice, a value of another type or a "format_version" other than 1, and when it is larger than 64 MiB or the
-/// manifest of the package would be about as large. Takes time and memory in proportion to the text, and little stack
-/// however deep it is nested. May be called by several threads at once.
+/// there twice, an entry twice in a list that has each but once (languages, permissions), a value of another type or a
+/// "format_version" other than 1, and when it is larger than 64 MiB or the manifest of the package would be about as
+/// large. Keys and entries are compared as a manifest carries them. Takes time and memory in proportion to the text,
+/// and little stack however deep it is nested. May be called by several threads at once.
 ZUPACKAGE_AUTHORING_EXPORT PackageInfo packageFromJson(std::string_view json);
 
 } // namespace zu
