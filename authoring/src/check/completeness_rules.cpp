@@ -1,4 +1,5 @@
 #include "check/findings.hpp"
+#include "check/leftovers.hpp"
 #include "check/wording.hpp"
 
 #include <algorithm>
@@ -93,11 +94,7 @@ void findEmptySections(const Checked& checked, Findings& findings)
 {
     for (const SourceNode element : checked.outline.elements()) {
         const ElementEntry& entry = *checked.outline.entry(element);
-        const bool holdsEntries =
-            std::any_of(entry.children.begin(), entry.children.end(),
-                        [](const ElementEntry* child) { return child->occurrence == Occurrence::Repeated; });
-        // The sections that a package must have are missing when they are empty; a service may do without variables.
-        if (holdsEntries && entry.occurrence != Occurrence::Once && entry.name != "service" && !hasElements({element}))
+        if (isForOthers(entry) && !hasElements({element}))
             findings.at(element, inQuotes(entry.name) + " holds nothing");
     }
 }

@@ -1,4 +1,5 @@
 #include "json/json_form.hpp"
+#include "package/package_element.hpp"
 
 #include <zupackage/authoring/schema.hpp>
 
@@ -14,6 +15,9 @@ using zu::authoring::ValueKind;
 ordered_json schemaOf(const ElementEntry& entry);
 
 ordered_json listOf(ordered_json items) { return {{"type", "array"}, {"items", std::move(items)}}; }
+
+/// A list that has each entry but once.
+ordered_json setOf(const ordered_json& items) { return {{"type", "array"}, {"uniqueItems", true}, {"items", items}}; }
 
 ordered_json mapTo(ordered_json values) { return {{"type", "object"}, {"additionalProperties", std::move(values)}}; }
 
@@ -65,11 +69,13 @@ ordered_json schemaOf(const ElementEntry& entry)
     case JsonForm::Presence:
         return {{"type", "boolean"}};
     case JsonForm::Names:
-        return listOf(namesOfChildren(entry));
+        return setOf(namesOfChildren(entry));
     case JsonForm::Object:
         return schemaOfObject(entry);
-    case JsonForm::List:
-        return listOf(schemaOfOne(content ? *content : entry));
+    case JsonForm::List: {
+        const ElementEntry& listed = content ? *content : entry;
+        return listed.identity == k_ownText ? setOf(schemaOfOne(listed)) : listOf(schemaOfOne(listed));
+    }
     case JsonForm::Map:
         return mapTo(anyText());
     case JsonForm::ListMap:
