@@ -35,8 +35,9 @@ ExitCode addAll(const std::vector<std::string>& manifests, SiteWriter& site, std
         [&](SiteArticle article) {
             if (!article.failure.empty()) {
                 progress.clear();
-                complain("cannot read " + article.name + ": " + article.failure);
-                result = k_inputFailed;
+                const char* const verb = article.failureExitCode == k_usage ? "check " : "read ";
+                complain(std::string("cannot ") + verb + article.name + ": " + article.failure);
+                result = worse(result, article.failureExitCode);
             }
             if (article.isShown) {
                 site.add(std::move(article), number);
@@ -73,9 +74,6 @@ ExitCode makeSite(const SiteArguments& arguments)
             complain("there is no package to show; nothing is written");
         else
             site->finish();
-    } catch (const SettingsError& error) {
-        complain(error.what());
-        return k_usage;
     } catch (const SiteError& error) {
         complain(error.what());
         return worse(result, k_outputFailed);

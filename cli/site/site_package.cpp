@@ -61,8 +61,6 @@ SitePackage readSitePackage(const std::string& path)
 {
     SitePackage package;
     package.checked = checkManifest(path, {});
-    if (package.checked.failureExitCode == k_usage)
-        throw SettingsError(package.checked.failure);
     if (!package.checked.failure.empty())
         return package;
     ManifestSyntaxError error;

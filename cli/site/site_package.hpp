@@ -25,7 +25,6 @@ struct SitePackage
 };
 
 /// Reads and checks a manifest file, or what standard input holds for "-". What cannot be read is told in `checked`.
-/// @throws SettingsError for the file of settings that applies to it.
 SitePackage readSitePackage(const std::string& path);
 
 /// A text in the language that most readers of a site know: English, else the first of the declared languages, else

@@ -110,6 +110,7 @@ SiteArticle SiteWriter::articleOf(const SitePackage& package, std::size_t number
     SiteArticle article;
     article.name = package.checked.name;
     article.failure = package.checked.failure.empty() ? package.refusal : package.checked.failure;
+    article.failureExitCode = package.checked.failureExitCode;
     // What is no package has a page all the same, with what is wrong; what is no file has none.
     article.isShown = package.checked.failure.empty();
     if (article.isShown) {

@@ -12,8 +12,9 @@ namespace zu::cli {
 struct SiteArticle
 {
     std::string name;    ///< of the manifest, as messages show it
-    std::string failure; ///< why it could not be read, or is read as no package; empty otherwise
-    bool isShown = true; ///< not when there was nothing to read
+    std::string failure; ///< why it could not be read or checked, or is read as no package; empty otherwise
+    ExitCode failureExitCode = k_inputFailed;
+    bool isShown = true; ///< not when there was nothing to read, or no settings for it
     std::string identifier;
     std::string html; ///< the page, or, for a site of a single file, the article in it
     IndexEntry entry;

@@ -186,6 +186,26 @@ TEST_F(SiteCommand, FiltersByValuesAsTheyStand)
     EXPECT_THAT(page("index.html"), HasSubstr("<li>Brindle  7 </li>"));
 }
 
+TEST_F(SiteCommand, SettingsThatCannotBeUnderstoodLeaveOutTheirPackagesAlone)
+{
+    manifest("a", "<package uuid=\"org.a\"/>");
+    manifest("b", "<package uuid=\"org.b\"/>");
+    folder.file("packages/a/.zupackage-check", "no-such-rule=off # why not\n");
+    const ProgramResult result = site({packages, "-o", out});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_THAT(result.errors, HasSubstr("zupackage: cannot check " + packages + "/a/manifest.xml: "));
+    EXPECT_THAT(page("index.html"), HasSubstr(">org.b</a>"));
+    EXPECT_THAT(page("index.html"), Not(HasSubstr(">org.a</a>")));
+}
+
+TEST_F(SiteCommand, NamesOfFilesSteerNoTerminal)
+{
+    manifest("\x1B[31mX", "<package");
+    manifest("a", "<package uuid=\"org.a\"/>");
+    EXPECT_THAT(site({packages, "-o", out}).errors, HasSubstr("/\xEF\xBF\xBD[31mX/manifest.xml: line 1, column "));
+    EXPECT_THAT(site({packages, "--single", "-"}).errors, Not(HasSubstr("\x1B")));
+}
+
 TEST_F(SiteCommand, NeedsExactlyOnePlaceForItsOutput)
 {
     EXPECT_EQ(site({packages}).exitCode, 2);
