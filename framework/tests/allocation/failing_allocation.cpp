@@ -18,23 +18,35 @@ bool isOfQt(const void* caller)
     return dladdr(caller, &info) != 0 && info.dli_fname && std::strstr(info.dli_fname, "libQt5");
 }
 
+/// @return null when there is no memory, or is to be none
+void* allocate(std::size_t size, const void* caller)
+{
+    if (t_allowed == 0 && !isOfQt(caller)) {
+        t_allowed = k_failed;
+        return nullptr;
+    }
+    if (t_allowed > 0 && t_allowed < k_failed)
+        --t_allowed;
+    return std::malloc(size == 0 ? 1 : size);
+}
+
 } // namespace
 
 void* operator new(std::size_t size)
 {
-    if (t_allowed == 0 && !isOfQt(__builtin_return_address(0))) {
-        t_allowed = k_failed;
-        throw std::bad_alloc();
-    }
-    if (t_allowed > 0 && t_allowed < k_failed)
-        --t_allowed;
-    if (void* memory = std::malloc(size == 0 ? 1 : size))
+    if (void* memory = allocate(size, __builtin_return_address(0)))
         return memory;
     throw std::bad_alloc();
 }
 
+void* operator new(std::size_t size, const std::nothrow_t& /*unused*/) noexcept
+{
+    return allocate(size, __builtin_return_address(0));
+}
+
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete(void* memory, const std::nothrow_t& /*unused*/) noexcept { std::free(memory); }
 
 namespace zu {
 
