@@ -23,7 +23,9 @@ endif()
 
 option(ZU_WERROR "Treat compiler warnings as errors" OFF)
 option(ZU_HEADERS_ALONE "Compile each public header alone" OFF)
-option(ZU_UNITY "Compile several sources together, in targets that are UNITY" OFF)
+option(ZU_ABI "Describe types in the libraries that are ABI, for what compares binary interfaces" OFF)
+set(ZU_UNITY OFF CACHE STRING "Compile several sources together, in which targets that are UNITY")
+set_property(CACHE ZU_UNITY PROPERTY STRINGS OFF TESTS ON)
 
 # One strictness for every target of ours.
 function(zu_compile_options target)
@@ -39,12 +41,10 @@ function(zu_compile_options target)
         $<$<BOOL:${ZU_WERROR}>:-Werror>)
 endfunction()
 
-function(zu_compile_together target is_unity)
-    if(ZU_UNITY AND is_unity)
-        set_target_properties(${target} PROPERTIES UNITY_BUILD ON)
-        # To GCC the included sources are headers, which should have no anonymous namespaces.
-        target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
-    endif()
+function(zu_compile_together target)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON)
+    # To GCC the included sources are headers, which should have no anonymous namespaces.
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 endfunction()
 
 # A shared library ${target} with an export header <${folder}/export.hpp> that defines ${macro}, a header of its
@@ -52,12 +52,16 @@ endfunction()
 # operations link the objects. It is known as zu::${EXPORT_NAME}, to pkg-config as ${NAME}, with what its headers need
 # there in REQUIRES.
 # UNITY: no two sources have the same name for different things, so that they can be compiled together.
+# ABI: programs link it that are not built with it.
 function(zu_add_library target)
-    cmake_parse_arguments(arg "UNITY" "NAME;DESCRIPTION;EXPORT_NAME;FOLDER;MACRO" "SOURCES;REQUIRES" ${ARGN})
+    cmake_parse_arguments(arg "ABI;UNITY" "NAME;DESCRIPTION;EXPORT_NAME;FOLDER;MACRO" "SOURCES;REQUIRES" ${ARGN})
 
     add_library(${target}_objects OBJECT ${arg_SOURCES})
     zu_compile_options(${target}_objects)
-    zu_compile_together(${target}_objects ${arg_UNITY})
+    if(arg_UNITY AND ZU_UNITY STREQUAL "ON")
+        zu_compile_together(${target}_objects)
+    endif()
+    target_compile_options(${target}_objects PRIVATE $<$<AND:$<BOOL:${ZU_ABI}>,$<BOOL:${arg_ABI}>>:-g2>)
     set(generated ${CMAKE_CURRENT_BINARY_DIR}/generated)
     generate_export_header(${target}_objects BASE_NAME ${target}
         EXPORT_MACRO_NAME ${arg_MACRO}
@@ -163,7 +167,9 @@ function(zu_add_tests target)
     cmake_parse_arguments(arg "THREADS;UNITY" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${target} ${arg_SOURCES})
     zu_test_compile_options(${target})
-    zu_compile_together(${target} ${arg_UNITY})
+    if(arg_UNITY AND NOT ZU_UNITY STREQUAL "OFF")
+        zu_compile_together(${target})
+    endif()
     target_link_libraries(${target} PRIVATE ${arg_LIBRARIES} GTest::gmock GTest::gtest_main)
     if(NOT TARGET zu_test_headers)
         file(CONFIGURE OUTPUT zu_test_headers.cpp CONTENT "")
