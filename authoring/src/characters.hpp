@@ -28,6 +28,7 @@ inline bool isOf(std::uint8_t classes, char byte)
 
 constexpr std::size_t k_byteOrderMarkSize = 3;
 constexpr std::string_view k_byteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view k_replacementCharacter = "\xEF\xBF\xBD";
 
 struct Character
 {

@@ -1,3 +1,4 @@
+#include "characters.hpp"
 #include "check/findings.hpp"
 #include "check/forbidden_characters.hpp"
 #include "check/wording.hpp"
@@ -58,9 +59,8 @@ void findReplacementCharacters(const Checked& checked, Findings& findings)
     const SourceDocument& document = checked.document;
     for (std::size_t i = 1; i < document.nodeCount(); ++i) {
         const SourceNode node = document.node(i);
-        constexpr std::string_view k_replacement = "\xEF\xBF\xBD";
         if ((node.kind() == NodeKind::Text || node.kind() == NodeKind::CData) &&
-            document.source(node.range()).find(k_replacement) != std::string_view::npos)
+            document.source(node.range()).find(authoring::k_replacementCharacter) != std::string_view::npos)
             findings.at(node.range(), node.parent(), "U+FFFD stands where a character was lost");
     }
 }

@@ -1,5 +1,7 @@
 #include "check/wording.hpp"
 
+#include "characters.hpp"
+
 #include <algorithm>
 #include <cstddef>
 #include <numeric>
@@ -7,8 +9,6 @@
 namespace zupackage::check {
 
 namespace {
-
-constexpr std::string_view k_replacement = "\xEF\xBF\xBD";
 
 std::size_t lengthOfCharacter(std::string_view text)
 {
@@ -69,7 +69,7 @@ std::string inQuotes(std::string_view text)
             break;
         }
         const std::string_view character = text.substr(0, lengthOfCharacter(text));
-        result += steersTerminal(character) ? k_replacement : character;
+        result += steersTerminal(character) ? authoring::k_replacementCharacter : character;
         text.remove_prefix(character.size());
     }
     return result + "\"";

@@ -1,6 +1,7 @@
 #include "json/element_builder.hpp"
 
 #include "check/wording.hpp"
+#include "json/carriable_text.hpp"
 #include "limits.hpp"
 
 #include <utility>
@@ -11,30 +12,6 @@ namespace {
 
 using zu::authoring::Occurrence;
 using zu::authoring::ValueKind;
-
-constexpr std::string_view k_forForbidden = "\xEF\xBF\xBD";
-constexpr std::string_view k_byteOrderMark = "\xEF\xBB\xBF";
-
-/// The text, which is UTF-8, as a manifest carries it: with U+FFFD for what XML cannot, and without byte order marks
-/// before it.
-std::string carriable(std::string_view text)
-{
-    while (text.substr(0, k_byteOrderMark.size()) == k_byteOrderMark)
-        text.remove_prefix(k_byteOrderMark.size());
-    std::string result;
-    result.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        const bool isNoncharacter = text.compare(i, 3, "\xEF\xBF\xBE") == 0 || text.compare(i, 3, "\xEF\xBF\xBF") == 0;
-        if (isNoncharacter)
-            i += 2;
-        if (isNoncharacter || (byte < 0x20 && byte != '\t' && byte != '\n' && byte != '\r'))
-            result += k_forForbidden;
-        else
-            result += text[i];
-    }
-    return result;
-}
 
 const char* wordsFor(JsonForm form)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "characters.hpp"
 #include "edits.hpp"
 
 #include <string>
@@ -38,7 +39,6 @@ private:
 
 inline std::string withAttribute(std::string_view name, std::string_view value)
 {
-    constexpr std::string_view k_replacementCharacter = "\xEF\xBF\xBD";
     std::string escaped = escapedValue(value, '"');
     // As a character it would look like a fault of the schema itself.
     for (std::size_t at = 0; (at = escaped.find(k_replacementCharacter, at)) != std::string::npos;)
