@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <unordered_set>
 
 namespace zu::authoring {
 
@@ -198,7 +199,7 @@ private:
         if (!entry || entry->identity != changed)
             return;
         requireUnique(element, *entry, value, m_identified);
-        m_identified.push_back(element);
+        m_identified.insert(element.index());
     }
 
     void append(std::vector<Statement> statements)
@@ -222,7 +223,8 @@ private:
     bool m_leadsSomewhere = false;
     std::vector<TextEdit> m_edits;
     std::vector<Statement> m_statements;
-    std::vector<SourceNode> m_identified; ///< those that are told from others by the text that is set
+    std::unordered_set<std::size_t>
+        m_identified; ///< the numbers of those that are told from others by the text that is set
 };
 
 Change changeFor(const SourceDocument& document, const PathEdit& edit, VocabularyGuard guard)

@@ -221,10 +221,10 @@ std::string identityOf(const NewElement& element, const ElementEntry& entry)
 }
 
 void requireUnique(SourceNode element, const ElementEntry& entry, std::string_view identity,
-                   const std::vector<SourceNode>& others)
+                   const std::unordered_set<std::size_t>& others)
 {
     for (const SourceNode other : entriesIn(element.parent(), entry)) {
-        const bool isToBeSo = std::find(others.begin(), others.end(), other) != others.end();
+        const bool isToBeSo = others.count(other.index()) > 0;
         if (other != element && (isToBeSo || identityOf(other, entry) == identity))
             refuseSecond(other, entry, identity);
     }

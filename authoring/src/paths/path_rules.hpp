@@ -5,7 +5,10 @@
 #include <zupackage/authoring/source_document.hpp>
 #include <zupackage/authoring/vocabulary.hpp>
 
+#include <cstddef>
+#include <string>
 #include <string_view>
+#include <unordered_set>
 
 /// What edits by paths are refused for. All throw PathEditError.
 namespace zupackage::authoring {
@@ -31,9 +34,9 @@ std::string identityOf(zu::authoring::SourceNode element, const zu::authoring::E
 std::string identityOf(const NewElement& element, const zu::authoring::ElementEntry& entry);
 
 /// That no other entry has the identity that one is to have.
-/// @param others those that are to have it, too.
+/// @param others the numbers of those that are to have it, too.
 void requireUnique(zu::authoring::SourceNode element, const zu::authoring::ElementEntry& entry,
-                   std::string_view identity, const std::vector<zu::authoring::SourceNode>& others);
+                   std::string_view identity, const std::unordered_set<std::size_t>& others);
 
 /// An element that is to be made in one that is there.
 /// @param entry what the vocabulary says about the parent; null when it says nothing.

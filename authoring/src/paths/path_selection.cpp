@@ -88,9 +88,11 @@ std::vector<std::vector<SourceNode>> sectionsOf(const std::vector<SourceNode>& e
     for (const SourceNode element : elements) {
         const ElementEntry* const entry = entryOf(element);
         const bool isSection = entry && entry->occurrence != Occurrence::Repeated;
-        const auto same = std::find_if(sections.begin(), sections.end(), [&](const std::vector<SourceNode>& section) {
-            return isSection && section.front().name() == element.name();
-        });
+        const auto same = isSection ? std::find_if(sections.begin(), sections.end(),
+                                                   [&](const std::vector<SourceNode>& section) {
+                                                       return section.front().name() == element.name();
+                                                   })
+                                    : sections.end();
         if (same == sections.end())
             sections.push_back({element});
         else

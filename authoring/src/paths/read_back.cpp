@@ -8,7 +8,10 @@
 #include <zupackage/package_info.hpp>
 
 #include <algorithm>
+#include <map>
 #include <optional>
+#include <unordered_map>
+#include <utility>
 
 namespace zupackage::authoring {
 
@@ -121,16 +124,44 @@ bool saysAt(const PackageElement& element, const Statement& statement)
     return saysAlike(attribute->kind, element.attributes[number], statement.text);
 }
 
-bool says(const PackageElement& element, const Statement& statement, std::size_t step = 0)
+/// Follows ways in a package. What is an entry's is sorted when a way first leads there: of long lists, each statement
+/// may be about another entry.
+class WaysOfPackage
 {
-    if (step == statement.way.size())
-        return saysAt(element, statement);
-    const EntryStep& wanted = statement.way[step];
-    return std::any_of(element.children.begin(), element.children.end(), [&](const PackageElement& child) {
-        return child.entry == wanted.entry && (wanted.identity.empty() || identityOf(child) == wanted.identity) &&
-               says(child, statement, step + 1);
-    });
-}
+public:
+    explicit WaysOfPackage(PackageElement root) : m_root(std::move(root)) {}
+
+    bool say(const Statement& statement) { return say(m_root, statement, 0); }
+
+private:
+    using Key = std::pair<const ElementEntry*, std::string>;
+    using Children = std::multimap<Key, const PackageElement*>;
+
+    bool say(const PackageElement& element, const Statement& statement, std::size_t step)
+    {
+        if (step == statement.way.size())
+            return saysAt(element, statement);
+        const EntryStep& wanted = statement.way[step];
+        const auto [begin, end] = childrenOf(element).equal_range({wanted.entry, wanted.identity});
+        return std::any_of(begin, end, [&](const auto& child) { return say(*child.second, statement, step + 1); });
+    }
+
+    const Children& childrenOf(const PackageElement& element)
+    {
+        const auto [children, isNew] = m_children.try_emplace(&element);
+        if (isNew) {
+            for (const PackageElement& child : element.children) {
+                children->second.emplace(Key(child.entry, std::string()), &child);
+                if (const std::string identity = identityOf(child); !identity.empty())
+                    children->second.emplace(Key(child.entry, identity), &child);
+            }
+        }
+        return children->second;
+    }
+
+    PackageElement m_root;
+    std::unordered_map<const PackageElement*, Children> m_children;
+};
 
 /// Whether a package need not say it: nothing, and what stands in web content, which packages do not hold.
 bool isBeyondPackages(const Statement& statement)
@@ -140,12 +171,12 @@ bool isBeyondPackages(const Statement& statement)
            });
 }
 
-std::optional<PackageElement> packageIn(const std::string& manifest)
+std::optional<WaysOfPackage> packageIn(const std::string& manifest)
 {
     zu::PackageInfo package;
     if (!zu::readManifest(manifest, package))
         return std::nullopt;
-    return elementOf(package);
+    return std::optional<WaysOfPackage>(std::in_place, elementOf(package));
 }
 
 } // namespace
@@ -175,7 +206,7 @@ const Statement* unread(const SourceDocument& document, const std::vector<Statem
     // From there on, reading all at once takes less time.
     constexpr std::size_t k_mostExcerpts = 8;
     std::string manifest = statements.size() > k_mostExcerpts ? document.text() : std::string();
-    std::optional<PackageElement> package = manifest.empty() ? std::nullopt : packageIn(manifest);
+    std::optional<WaysOfPackage> package = manifest.empty() ? std::nullopt : packageIn(manifest);
     for (const Statement& statement : statements) {
         if (isBeyondPackages(statement))
             continue;
@@ -185,7 +216,7 @@ const Statement* unread(const SourceDocument& document, const std::vector<Statem
                 package = packageIn(excerpt);
             manifest = std::move(excerpt);
         }
-        if (!package || !says(*package, statement))
+        if (!package || !package->say(statement))
             return &statement;
     }
     return nullptr;
