@@ -1,5 +1,6 @@
 // Three texts with NULs between them, a manifest, another one, and a path: the first is edited to read as the second,
 // and what the path leads to is set, added and removed. Made is what was asked for, or nothing.
+#include "support/carried_packages.hpp"
 #include "target.hpp"
 
 #include <zupackage/authoring/manifest_editor.hpp>
@@ -12,20 +13,6 @@ namespace {
 
 using namespace zu::authoring;
 using fuzz::require;
-
-/// What of a package a manifest carries: what stays when it is written and read again and again.
-std::string carried(zu::PackageInfo package)
-{
-    std::string text = package.saveToManifestContent();
-    for (;;) {
-        zu::PackageInfo read;
-        zu::readManifest(text, read);
-        std::string next = read.saveToManifestContent();
-        if (next == text)
-            return text;
-        text = std::move(next);
-    }
-}
 
 void update(const SourceDocument& document, const std::string& other)
 {
@@ -42,7 +29,8 @@ void update(const SourceDocument& document, const std::string& other)
         return;
     }
     require(editor.document().isWellFormed(), "an update leaves something ill-formed: " + editor.document().text());
-    require(carried(editor.package()) == carried(target), "an update reads otherwise: " + editor.document().text());
+    require(zu::test::areCarriedAlike(editor.package(), target),
+            "an update reads otherwise: " + editor.document().text());
 }
 
 void edit(const SourceDocument& document, const ManifestPath& path)

@@ -2,6 +2,7 @@
 // usage: zupackage_compare_source_documents FOLDER...
 // Each is edited, there and back, too. Also tells which documents are refused that QXmlStreamReader accepts: those are
 // no differences, but known by name.
+#include "support/carried_packages.hpp"
 #include "support/files.hpp"
 #include "support/odd_manifests.hpp"
 #include "support/stream_reader.hpp"
@@ -23,20 +24,6 @@ enum class Editing
     Wrong
 };
 
-/// What of a package manifests carry: what stays when it is written and read again and again.
-std::string carried(zu::PackageInfo package)
-{
-    std::string text = package.saveToManifestContent();
-    for (;;) {
-        zu::PackageInfo read;
-        zu::readManifest(text, read);
-        std::string next = read.saveToManifestContent();
-        if (next == text)
-            return next;
-        text = std::move(next);
-    }
-}
-
 /// A package with a few things changed, the same ones in each run.
 zu::PackageInfo changed(const zu::PackageInfo& package)
 {
@@ -55,7 +42,7 @@ Editing edit(const zu::authoring::SourceDocument& document)
             editor.update(package);
             const std::string text = editor.document().text();
             editor.update(package);
-            if (editor.document().text() != text || carried(editor.package()) != carried(package))
+            if (editor.document().text() != text || !zu::test::areCarriedAlike(editor.package(), package))
                 return Editing::Wrong;
             if (&package == &others[0] && text != document.text())
                 return Editing::Wrong;

@@ -1,3 +1,4 @@
+#include "support/carried_packages.hpp"
 #include "support/files.hpp"
 #include "support/generated_documents.hpp"
 #include "support/generated_packages.hpp"
@@ -23,27 +24,6 @@ constexpr int k_documents = 10'000 / k_updatesEach;
 
 std::string written(PackageInfo package) { return package.saveToManifestContent(); }
 
-/// What of a package a manifest carries, as text: what stays when it is written and read again and again. Empty texts
-/// go first, then the lists that hold no others.
-std::string carried(std::string text)
-{
-    for (;;) {
-        PackageInfo read;
-        readManifest(text, read);
-        std::string next = read.saveToManifestContent();
-        if (next == text)
-            return next;
-        text = std::move(next);
-    }
-}
-
-bool readAlike(const PackageInfo& left, const PackageInfo& right)
-{
-    const std::string leftText = written(left);
-    const std::string rightText = written(right);
-    return leftText == rightText || carried(leftText) == carried(rightText);
-}
-
 /// An editor of an odd manifest.
 ManifestEditor oddEditor()
 {
@@ -67,7 +47,7 @@ bool isUpdated(ManifestEditor& editor, const PackageInfo& package)
         RC_ASSERT(editor.document().text() == before);
         return false;
     }
-    if (!readAlike(editor.package(), package))
+    if (!test::areCarriedAlike(editor.package(), package))
         RC_FAIL(before + "\nbecame\n" + editor.document().text() + "\nfor\n" + written(package));
     return true;
 }
