@@ -88,11 +88,11 @@ BENCHMARK(update)->Apply(&sizes);
 
 int main(int argc, char** argv)
 {
-    // The first of the two is only reported: the package library's reader goes over the document when it is opened and
-    // once more when it is edited, which alone takes about three passes.
+    // The package library's reader goes over the document when it is opened and once more when it is edited: alone that
+    // takes about three passes.
     std::vector<bench::Target> targets;
     for (const std::string size : {"/10", "/1000", "/2000"}) {
-        targets.push_back({"openEditAndWrite" + size, "passAndWrite" + size, 0});
+        targets.push_back({"openEditAndWrite" + size, "passAndWrite" + size, 6.0});
         targets.push_back({"update" + size, "read" + size, 3.0});
     }
     return bench::run(argc, argv, std::move(targets));
