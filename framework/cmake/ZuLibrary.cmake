@@ -81,9 +81,9 @@ function(zu_add_library target)
         LINK_DEPENDS ${ZU_CMAKE_FOLDER}/exports.map)
     target_compile_features(${target} PUBLIC cxx_std_17)
     target_link_libraries(${target} PRIVATE ${target}_objects)
-    # Fewer symbols to look up, and sooner found, when a program starts.
-    target_link_options(${target} PRIVATE
-        LINKER:-O1,-Bsymbolic-functions LINKER:--version-script=${ZU_CMAKE_FOLDER}/exports.map)
+    # Programs start earlier: fewer symbols to look up, sooner found, and fewer parts of a file to map.
+    target_link_options(${target} PRIVATE LINKER:-O1,-Bsymbolic-functions LINKER:-z,noseparate-code
+        LINKER:--version-script=${ZU_CMAKE_FOLDER}/exports.map)
 
     foreach(side IN ITEMS ${target} ${target}_objects)
         target_include_directories(${side} PUBLIC
