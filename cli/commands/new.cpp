@@ -36,6 +36,7 @@ struct NewArguments
     std::string kind = "behavior";
     std::string uuid = notGiven();
     std::string name = notGiven();
+    std::string description = notGiven();
     std::vector<std::string> languages;
     bool namesSchema = false;
 };
@@ -52,6 +53,7 @@ SkeletonWish wishOf(const NewArguments& arguments, const std::string& folder)
     SkeletonWish wish;
     wish.kind = arguments.kind;
     wish.name = isGiven(arguments.name) ? arguments.name : lastNameOf(folder);
+    wish.description = isGiven(arguments.description) ? arguments.description : wish.name;
     wish.slug = slugOf(wish.name);
     wish.uuid =
         isGiven(arguments.uuid) ? arguments.uuid : QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString();
@@ -68,12 +70,19 @@ std::string withSchema(std::string manifest)
 
 bool isControl(QChar c) { return c.category() == QChar::Other_Control; }
 
-/// What a package cannot have for a name or a uuid, in words that go on a sentence; empty when it can.
+/// What a package cannot have for a text, in words that go on a sentence; empty when it can.
+const char* blankness(const std::string& text)
+{
+    return QString::fromStdString(text).trimmed().isEmpty() ? "is empty or white space alone" : "";
+}
+
+/// What it cannot have for a name or a uuid, which stand in one line.
 const char* unfitness(const std::string& text)
 {
+    const char* const fault = blankness(text);
+    if (*fault != '\0')
+        return fault;
     const QString characters = QString::fromStdString(text);
-    if (characters.trimmed().isEmpty())
-        return "is empty or white space alone";
     return std::any_of(characters.begin(), characters.end(), &isControl) ? "has a control character in it" : "";
 }
 
@@ -84,9 +93,12 @@ std::string faultOf(const NewArguments& arguments)
     {
         const char* name;
         const std::string& value;
+        const char* (*faultOf)(const std::string& value);
     };
-    for (const Option& option : {Option{"--uuid", arguments.uuid}, Option{"--name", arguments.name}}) {
-        const std::string fault = isGiven(option.value) ? unfitness(option.value) : "";
+    for (const Option& option :
+         {Option{"--uuid", arguments.uuid, unfitness}, Option{"--name", arguments.name, unfitness},
+          Option{"--description", arguments.description, blankness}}) {
+        const std::string fault = isGiven(option.value) ? option.faultOf(option.value) : "";
         if (!fault.empty())
             return std::string(option.name) + ": the value " + fault;
     }
@@ -184,6 +196,8 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     arguments.choice(parsed->kind, "--kind", skeletonKinds(), "What the package is for");
     arguments.option(parsed->uuid, "--uuid", "ID", "What installers know the package by; by default a random one");
     arguments.option(parsed->name, "--name", "TEXT", "What the package is called; by default as the folder");
+    arguments.option(parsed->description, "--description", "TEXT",
+                     "What stores tell of the package; by default its name");
     arguments.repeated(parsed->languages, "--language", "CODE", "A language of the package; by default en");
     arguments.flag(parsed->namesSchema, "--schema", "Tell editors the schema, by a line at the manifest's beginning");
     return [parsed] { return makePackages(*parsed); };

@@ -87,6 +87,7 @@ void makeSkeleton(const SkeletonWish& wish, Skeleton& skeleton)
     skeleton.package.setTypeVersion("1.0");
     for (const std::string& language : wish.languages) {
         skeleton.package.setName(wish.name, language);
+        skeleton.package.setDescription(wish.description, language);
         skeleton.package.addSupportedLanguage(language);
         skeleton.package.addDescriptionLanguage(language);
     }

@@ -12,8 +12,9 @@ struct SkeletonWish
 {
     std::string kind; ///< one of skeletonKinds()
     std::string uuid;
-    std::string name; ///< in every language
-    std::string slug; ///< the name as paths have it
+    std::string name;        ///< in every language
+    std::string description; ///< in every language
+    std::string slug;        ///< the name as paths have it
     std::vector<std::string> languages;
 };
 

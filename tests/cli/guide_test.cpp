@@ -41,10 +41,11 @@ TEST(Guide, ShowsFindingsAndHowTheyAreMended)
     const auto set = zupackageIn(folder.path(), {"set", "wave-hello", "@author=Kerstin",
                                                  "names/name[@lang='en']=Wave hello", "names/name[@lang='fr']=Saluer"});
     EXPECT_EQ(set.exitCode, 0) << set.errors;
-    folder.file(manifest, replaced(test::readFile(folder.path() / manifest), " <supportedLanguages>",
-                                   " <descriptions>\n  " + french +
-                                       "\n  <description lang=\"en\">Waves when somebody says hello.</description>\n"
-                                       " </descriptions>\n <supportedLanguages>"));
+    folder.file(manifest, replaced(test::readFile(folder.path() / manifest),
+                                   "  <description lang=\"en\">wave-hello</description>\n"
+                                   "  <description lang=\"fr\">wave-hello</description>\n",
+                                   "  " + french +
+                                       "\n  <description lang=\"en\">Waves when somebody says hello.</description>\n"));
     const test::ProgramResult check = zupackageIn(folder.path(), {"check", "wave-hello"});
     test::expectGolden(check.output + check.errors, "guide/findings.txt");
     folder.file(manifest, replaced(test::readFile(folder.path() / manifest), french,

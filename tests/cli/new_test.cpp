@@ -54,6 +54,25 @@ TEST_F(NewCommand, NeedsNothingButAFolder)
     EXPECT_EQ(zupackage({"check", "--fail-on", "pedantic", path("Wave Hello")}).exitCode, 0);
 }
 
+TEST_F(NewCommand, DescribesThePackageInEachLanguage)
+{
+    const std::string description = "Says “hello” & waves.\nThen it bows.";
+    EXPECT_EQ(
+        zupackage({"new", path("a"), "--language", "en", "--language", "fr", "--description", description}).exitCode,
+        0);
+    for (const char* language : {"en", "fr"}) {
+        const std::string described = std::string("descriptions/description[@lang='") + language + "']";
+        EXPECT_EQ(zupackage({"get", path("a"), described}).output, description + "\n");
+    }
+    EXPECT_EQ(zupackage({"check", "--fail-on", "pedantic", path("a")}).exitCode, 0);
+}
+
+TEST_F(NewCommand, DescribesThePackageByItsNameUntilItIsTold)
+{
+    EXPECT_EQ(zupackage({"new", path("a"), "--name", "Wave Hello"}).exitCode, 0);
+    EXPECT_EQ(zupackage({"get", path("a"), "descriptions/description[@lang='en']"}).output, "Wave Hello\n");
+}
+
 TEST_F(NewCommand, MakesServicesExecutable)
 {
     EXPECT_EQ(zupackage({"new", path("clock"), "--kind", "service"}).exitCode, 0);
@@ -92,19 +111,33 @@ TEST_F(NewCommand, RefusesWhatAManifestShouldNotHold)
     EXPECT_FALSE(std::filesystem::exists(path("a")));
 }
 
-TEST_F(NewCommand, RefusesAnIdOrANameThatNobodyCanSee)
+TEST_F(NewCommand, RefusesTextsThatNobodyCanSee)
 {
-    for (const char* option : {"--uuid", "--name"}) {
-        const std::string beginning = "zupackage: " + std::string(option) + ": the value ";
+    for (const std::string option : {"--uuid", "--name", "--description"}) {
         for (const char* blank : {"", " ", "\t", "\xE3\x80\x80"}) {
             const ProgramResult result = zupackage({"new", path("a"), option, blank});
             EXPECT_EQ(result.exitCode, 2);
-            EXPECT_EQ(result.errors, beginning + "is empty or white space alone\n");
+            EXPECT_EQ(result.errors, "zupackage: " + option + ": the value is empty or white space alone\n");
         }
+    }
+    EXPECT_FALSE(std::filesystem::exists(path("a")));
+}
+
+TEST_F(NewCommand, RefusesAnIdOrANameOfSeveralLines)
+{
+    for (const std::string option : {"--uuid", "--name"}) {
         const ProgramResult result = zupackage({"new", path("a"), option, "a\nb"});
         EXPECT_EQ(result.exitCode, 2);
-        EXPECT_EQ(result.errors, beginning + "has a control character in it\n");
+        EXPECT_EQ(result.errors, "zupackage: " + option + ": the value has a control character in it\n");
     }
+    EXPECT_FALSE(std::filesystem::exists(path("a")));
+}
+
+TEST_F(NewCommand, RefusesADescriptionThatAManifestCannotHold)
+{
+    const ProgramResult result = zupackage({"new", path("a"), "--description", "Beeps \a"});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_THAT(result.errors, HasSubstr("U+FFFD"));
     EXPECT_FALSE(std::filesystem::exists(path("a")));
 }
 
