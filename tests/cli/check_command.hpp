@@ -15,12 +15,16 @@ namespace zu::test {
 
 inline const std::string k_good = "<package uuid=\"a\" version=\"1.0\">\n"
                                   "  <names><name lang=\"en\">A</name></names>\n"
+                                  "  <descriptions><description lang=\"en\">Shows A</description></descriptions>\n"
                                   "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
                                   "  <contents><webContent path=\"web\"/></contents>\n"
                                   "</package>\n";
 
 inline const std::string k_bad = replaced(k_good, "1.0", "one");      // an error
 inline const std::string k_dubious = replaced(k_good, ">A<", "> A<"); // a warning
+/// An info.
+inline const std::string k_undescribed =
+    replaced(k_good, "<descriptions><description lang=\"en\">Shows A</description></descriptions>", "");
 /// An error that a safe fix removes.
 inline const std::string k_fixable = replaced(k_good, " uuid", " installOnlyAtStartup=\" true \" uuid");
 

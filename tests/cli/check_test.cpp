@@ -30,6 +30,15 @@ TEST_F(CheckCommand, NamesPlaceSeverityAndRule)
     EXPECT_EQ(result.errors, "1 error in 1 manifest\n");
 }
 
+TEST_F(CheckCommand, TellsOfAPackageWithoutADescriptionWhereItDeclaresLanguages)
+{
+    const std::string path = manifest(k_undescribed);
+    const ProgramResult result = check({"--fix-unsafe", "--root", folder.path().string(), path});
+    EXPECT_EQ(result.output,
+              path + ":4:3: info: the package has no description in any language [missing-descriptions]\n");
+    EXPECT_EQ(content(), k_undescribed);
+}
+
 TEST_F(CheckCommand, ShowsTheSourceInColours)
 {
     const ProgramResult result = check({"--color=always", manifest(k_bad)});
@@ -49,6 +58,10 @@ TEST_F(CheckCommand, FailsFromTheSeverityOnThatIsAskedFor)
     const std::string path = manifest(k_dubious);
     EXPECT_EQ(check({path}).exitCode, 0);
     EXPECT_EQ(check({"--fail-on", "warning", path}).exitCode, 1);
+    EXPECT_EQ(check({"--fail-on", "info", path}).exitCode, 1);
+    manifest(k_undescribed);
+    EXPECT_EQ(check({path}).exitCode, 0);
+    EXPECT_EQ(check({"--fail-on", "warning", path}).exitCode, 0);
     EXPECT_EQ(check({"--fail-on", "info", path}).exitCode, 1);
     manifest(k_bad);
     EXPECT_EQ(check({"--fail-on", "never", path}).exitCode, 0);

@@ -1,6 +1,7 @@
 #include "check/findings.hpp"
 #include "check/leftovers.hpp"
 #include "check/wording.hpp"
+#include "edit/reading.hpp"
 
 #include <algorithm>
 
@@ -52,6 +53,17 @@ void findMissingSection(const Checked& checked, Findings& findings, std::string_
 void findMissingNames(const Checked& checked, Findings& findings)
 {
     findMissingSection(checked, findings, "/package/names", "the package has no name in any language");
+}
+
+void findMissingDescriptions(const Checked& checked, Findings& findings)
+{
+    if (!checked.document.isComplete() || hasElements(checked.outline.elements("/package/descriptions")))
+        return;
+    const auto& languages = checked.outline.elements("/package/descriptionLanguages/language");
+    const auto declared = std::find_if_not(languages.begin(), languages.end(),
+                                           [](SourceNode language) { return isBlank(edit::readText(language)); });
+    if (declared != languages.end())
+        findings.at(declared->parent(), "the package has no description in any language");
 }
 
 void findMissingContents(const Checked& checked, Findings& findings)
@@ -114,25 +126,46 @@ const std::vector<RuleRow>& completenessRules()
           "Stores and settings list packages by their names, and readers never fall back on the uuid.",
           ExampleFrame::Document,
           "<package uuid=\"org.example.hello\" version=\"1.0\">\n"
+          "  <descriptions><description lang=\"en\">Greets</description></descriptions>\n"
           "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
           "  <contents><webContent path=\"web\"/></contents>\n"
           "</package>",
           "<package uuid=\"org.example.hello\" version=\"1.0\">\n"
           "  <names><name lang=\"en\">Hello</name></names>\n"
+          "  <descriptions><description lang=\"en\">Greets</description></descriptions>\n"
           "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
           "  <contents><webContent path=\"web\"/></contents>\n"
           "</package>",
           ""},
          findMissingNames},
+        {{"missing-descriptions", Severity::Info, "Description languages in a package without a description",
+          "The package declares the languages in which it describes itself, and stores have nothing but its name to "
+          "show in them. Behaviors may do without descriptions.",
+          ExampleFrame::Document,
+          "<package uuid=\"org.example.hello\" version=\"1.0\">\n"
+          "  <names><name lang=\"en\">Hello</name></names>\n"
+          "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
+          "  <contents><webContent path=\"web\"/></contents>\n"
+          "</package>",
+          "<package uuid=\"org.example.hello\" version=\"1.0\">\n"
+          "  <names><name lang=\"en\">Hello</name></names>\n"
+          "  <descriptions><description lang=\"en\">Greets</description></descriptions>\n"
+          "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
+          "  <contents><webContent path=\"web\"/></contents>\n"
+          "</package>",
+          ""},
+         findMissingDescriptions},
         {{"missing-contents", Severity::Error, "The package has no contents",
           "Without a behavior, a dialog, a language or pages a package brings nothing to the robot.",
           ExampleFrame::Document,
           "<package uuid=\"org.example.hello\" version=\"1.0\">\n"
           "  <names><name lang=\"en\">Hello</name></names>\n"
+          "  <descriptions><description lang=\"en\">Greets</description></descriptions>\n"
           "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
           "</package>",
           "<package uuid=\"org.example.hello\" version=\"1.0\">\n"
           "  <names><name lang=\"en\">Hello</name></names>\n"
+          "  <descriptions><description lang=\"en\">Greets</description></descriptions>\n"
           "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
           "  <contents><webContent path=\"web\"/></contents>\n"
           "</package>",
@@ -144,7 +177,7 @@ const std::vector<RuleRow>& completenessRules()
           "<behaviorContent path=\"wave\"><nature>interactive</nature></behaviorContent>", ""},
          findMissingElements},
         {{"empty-text", Severity::Warning, "An element without the text that it is there for",
-          "An empty entry is read as one, but dropped when the manifest is written again.", ExampleFrame::Package,
+          "An empty entry is read as one, but dropped when the manifest is written again.", ExampleFrame::Behavior,
           "<descriptions><description lang=\"en\"/></descriptions>",
           "<descriptions><description lang=\"en\">Says hello</description></descriptions>", ""},
          findEmptyTexts},

@@ -128,21 +128,21 @@ const std::vector<RuleRow>& documentRules()
           "breaks off, a tag that ends another one and most other errors it refuses the whole manifest. Each finding "
           "says which of the two the robot does. Some errors end the check: what comes after them is judged once they "
           "are gone.",
-          ExampleFrame::Package, "<descriptions><description lang=\"en\">Fish & chips</description></descriptions>",
+          ExampleFrame::Behavior, "<descriptions><description lang=\"en\">Fish & chips</description></descriptions>",
           "<descriptions><description lang=\"en\">Fish &amp; chips</description></descriptions>", ""},
          findIllFormed},
         {{"forbidden-character", Severity::Error, "A character that XML cannot carry",
           "XML has no control characters but tab, line feed and carriage return, not even as numeric references, and "
           "neither U+FFFE nor U+FFFF. Strict parsers refuse the document; what the robot makes of it depends on the "
           "character.",
-          ExampleFrame::Package, "<descriptions><description lang=\"en\">Beeps&#7;</description></descriptions>",
+          ExampleFrame::Behavior, "<descriptions><description lang=\"en\">Beeps&#7;</description></descriptions>",
           "<descriptions><description lang=\"en\">Beeps</description></descriptions>", ""},
          findForbiddenCharacters},
         {{"replacement-character", Severity::Warning, "U+FFFD, which stands for a character that was lost",
           "Programs write U+FFFD where they could not make out a character, mostly because a text was read in the "
           "wrong "
           "encoding. Nobody wants to see it in a store.",
-          ExampleFrame::Package, "<descriptions><description lang=\"en\">Caf\xEF\xBF\xBD</description></descriptions>",
+          ExampleFrame::Behavior, "<descriptions><description lang=\"en\">Caf\xEF\xBF\xBD</description></descriptions>",
           "<descriptions><description lang=\"en\">Caf\xC3\xA9</description></descriptions>", ""},
          findReplacementCharacters},
         {{"document-type", Severity::Warning, "A document type",
@@ -152,11 +152,13 @@ const std::vector<RuleRow>& documentRules()
           "<!DOCTYPE package>\n"
           "<package uuid=\"org.example.hello\" version=\"1.0\">\n"
           "  <names><name lang=\"en\">Hello</name></names>\n"
+          "  <descriptions><description lang=\"en\">Greets</description></descriptions>\n"
           "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
           "  <contents><webContent path=\"web\"/></contents>\n"
           "</package>",
           "<package uuid=\"org.example.hello\" version=\"1.0\">\n"
           "  <names><name lang=\"en\">Hello</name></names>\n"
+          "  <descriptions><description lang=\"en\">Greets</description></descriptions>\n"
           "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
           "  <contents><webContent path=\"web\"/></contents>\n"
           "</package>",
@@ -165,7 +167,8 @@ const std::vector<RuleRow>& documentRules()
         {{"wide-reference", Severity::Error, "A numeric reference to a character that the robot cuts in two",
           "The robot's parser keeps 16 bits of a numeric reference, so that a character beyond U+FFFF becomes another "
           "one. The character itself is read as it is. The fix puts it there: the manifest then reads as it was meant.",
-          ExampleFrame::Package, "<descriptions><description lang=\"en\">Laughs &#x1F600;</description></descriptions>",
+          ExampleFrame::Behavior,
+          "<descriptions><description lang=\"en\">Laughs &#x1F600;</description></descriptions>",
           "<descriptions><description lang=\"en\">Laughs \xF0\x9F\x98\x80</description></descriptions>", ""},
          findWideReferences},
         {{"prefixed-name", Severity::Warning, "A name with a namespace prefix",

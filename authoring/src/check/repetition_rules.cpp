@@ -143,7 +143,7 @@ const std::vector<RuleRow>& repetitionRules()
         {{"repeated-language", Severity::Error, "A language stands twice in one list",
           "Of two texts in one language the later one counts; of two equal languages one is kept. The fix removes what "
           "does not count.",
-          ExampleFrame::Package,
+          ExampleFrame::Behavior,
           "<descriptions><description lang=\"en\">Says hello</description><description lang=\"en\">Greets</description>"
           "</descriptions>",
           "<descriptions><description lang=\"en\">Greets</description></descriptions>", ""},

@@ -56,7 +56,8 @@ std::string manifestWith(const Rule& rule, std::string_view example)
     };
     std::string manifest = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
     manifest.append(framed(ExampleFrame::RootTag, "<package uuid=\"org.example.hello\" version=\"1.0\">"));
-    manifest += "\n  <names>\n    <name lang=\"en\">Hello</name>\n  </names>\n  ";
+    manifest += "\n  <names>\n    <name lang=\"en\">Hello</name>\n  </names>\n"
+                "  <descriptions>\n    <description lang=\"en\">Says hello</description>\n  </descriptions>\n  ";
     manifest.append(framed(ExampleFrame::Languages,
                            "<supportedLanguages><language>en</language></supportedLanguages>"
                            "<descriptionLanguages><language>en</language></descriptionLanguages>"));

@@ -75,13 +75,13 @@ const std::vector<RuleRow>& textRules()
         {{"padded-text", Severity::Warning, "White space around a text",
           "Readers keep it: \" fr\" is another language than \"fr\", and a name with a line end in it looks odd in a "
           "list. The fix removes it, which makes another text of it.",
-          ExampleFrame::Package, "<descriptions><description lang=\"en\"> Says hello</description></descriptions>",
+          ExampleFrame::Behavior, "<descriptions><description lang=\"en\"> Says hello</description></descriptions>",
           "<descriptions><description lang=\"en\">Says hello</description></descriptions>", ""},
          findPaddedTexts},
         {{"blank-text", Severity::Warning, "A text of white space alone",
           "Readers drop it from an element, so that the entry is an empty one, and keep it in an attribute or a CDATA "
           "section, where nobody sees it.",
-          ExampleFrame::Package, "<descriptions><description lang=\"en\"> </description></descriptions>",
+          ExampleFrame::Behavior, "<descriptions><description lang=\"en\"> </description></descriptions>",
           "<descriptions><description lang=\"en\">Says hello</description></descriptions>", ""},
          findBlankTexts},
     };

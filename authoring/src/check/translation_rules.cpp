@@ -184,13 +184,26 @@ const std::vector<RuleRow>& translationRules()
         {{"missing-name", Severity::Warning, "A description language without a name",
           "Robots look for the name in exactly the language that they are set to and show nothing when there is none. "
           "Behaviors without any name are left alone.",
-          ExampleFrame::Languages,
-          "<descriptionLanguages><language>en</language><language>fr</language></descriptionLanguages>",
-          "<descriptionLanguages><language>en</language></descriptionLanguages>", ""},
+          ExampleFrame::Document,
+          "<package uuid=\"org.example.hello\" version=\"1.0\">\n"
+          "  <names><name lang=\"en\">Hello</name></names>\n"
+          "  <descriptions><description lang=\"en\">Greets</description><description lang=\"fr\">Salue</description>"
+          "</descriptions>\n"
+          "  <descriptionLanguages><language>en</language><language>fr</language></descriptionLanguages>\n"
+          "  <contents><webContent path=\"web\"/></contents>\n"
+          "</package>",
+          "<package uuid=\"org.example.hello\" version=\"1.0\">\n"
+          "  <names><name lang=\"en\">Hello</name><name lang=\"fr\">Bonjour</name></names>\n"
+          "  <descriptions><description lang=\"en\">Greets</description><description lang=\"fr\">Salue</description>"
+          "</descriptions>\n"
+          "  <descriptionLanguages><language>en</language><language>fr</language></descriptionLanguages>\n"
+          "  <contents><webContent path=\"web\"/></contents>\n"
+          "</package>",
+          ""},
          findMissingNames},
         {{"missing-description", Severity::Warning, "A description language without a description",
           "Stores show the description in exactly the language that they are set to and nothing when there is none. "
-          "Packages and behaviors without any description are left alone.",
+          "Behaviors without any description are left alone.",
           ExampleFrame::Document,
           "<package uuid=\"org.example.hello\" version=\"1.0\">\n"
           "  <names><name lang=\"en\">Hello</name><name lang=\"fr\">Bonjour</name></names>\n"
@@ -213,6 +226,7 @@ const std::vector<RuleRow>& translationRules()
           ExampleFrame::Document,
           "<package uuid=\"org.example.hello\" version=\"1.0\">\n"
           "  <names><name lang=\"en\">Hello</name></names>\n"
+          "  <descriptions><description lang=\"en\">Greets</description></descriptions>\n"
           "  <supportedLanguages><language>en</language><language>fr</language></supportedLanguages>\n"
           "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
           "  <contents>\n"
@@ -225,6 +239,7 @@ const std::vector<RuleRow>& translationRules()
           "</package>",
           "<package uuid=\"org.example.hello\" version=\"1.0\">\n"
           "  <names><name lang=\"en\">Hello</name></names>\n"
+          "  <descriptions><description lang=\"en\">Greets</description></descriptions>\n"
           "  <supportedLanguages><language>en</language><language>fr</language></supportedLanguages>\n"
           "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
           "  <contents>\n"
@@ -249,7 +264,7 @@ const std::vector<RuleRow>& translationRules()
         {{"trimmed-text", Severity::Warning, "A text that trimming to the declared languages drops",
           "Installers trim a package to the languages that it declares, so that nobody ever sees such a text. Declare "
           "its language, or remove it.",
-          ExampleFrame::Package,
+          ExampleFrame::Behavior,
           "<descriptions><description lang=\"en\">Greets</description><description lang=\"fr\">Salue</description>"
           "</descriptions>",
           "<descriptions><description lang=\"en\">Greets</description></descriptions>", ""},
@@ -257,7 +272,7 @@ const std::vector<RuleRow>& translationRules()
         {{"undeclared-language", Severity::Info, "A text in a language that is declared in a shorter form only",
           "Trimming keeps it, for the declared code is the beginning of its own. Whoever lists the languages of the "
           "package does not see it.",
-          ExampleFrame::Package,
+          ExampleFrame::Behavior,
           "<descriptions><description lang=\"en\">Greets</description><description lang=\"en_GB\">Greets</description>"
           "</descriptions>",
           "<descriptions><description lang=\"en\">Greets</description></descriptions>", ""},

@@ -234,11 +234,13 @@ const std::vector<RuleRow>& vocabularyRules()
           ExampleFrame::Document,
           "<pakage uuid=\"org.example.hello\" version=\"1.0\">\n"
           "  <names><name lang=\"en\">Hello</name></names>\n"
+          "  <descriptions><description lang=\"en\">Greets</description></descriptions>\n"
           "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
           "  <contents><webContent path=\"web\"/></contents>\n"
           "</pakage>",
           "<package uuid=\"org.example.hello\" version=\"1.0\">\n"
           "  <names><name lang=\"en\">Hello</name></names>\n"
+          "  <descriptions><description lang=\"en\">Greets</description></descriptions>\n"
           "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
           "  <contents><webContent path=\"web\"/></contents>\n"
           "</package>",
@@ -267,7 +269,7 @@ const std::vector<RuleRow>& vocabularyRules()
           "In names, descriptions, languages, tags, sentences, responses and conditions every node counts: a comment "
           "there becomes an entry with an empty language and an empty text. Put comments around the list, or into its "
           "entries. The fix removes the node, and the entry that readers make of it.",
-          ExampleFrame::Package,
+          ExampleFrame::Behavior,
           "<descriptions><!-- to do --><description lang=\"en\">Says hello</description></descriptions>",
           "<!-- to do --><descriptions><description lang=\"en\">Says hello</description></descriptions>", ""},
          findCountedNodes},

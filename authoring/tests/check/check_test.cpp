@@ -29,6 +29,7 @@ std::vector<std::string> idsOf(const std::vector<Diagnostic>& findings)
 
 const std::string k_faulty = "<package uuid='u' version='one'>\n"
                              "  <names><name lang='en'>N</name></names>\n"
+                             "  <descriptions><description lang='en'>D</description></descriptions>\n"
                              "  <descriptionLanguages><language>en</language></descriptionLanguages>\n"
                              "  <contents>\n"
                              "    <behaviorContent path='a'><nature>solitary</nature></behaviorContent>\n"
@@ -48,10 +49,10 @@ TEST(Check, FindsAllInTheOrderOfPlaces)
     EXPECT_EQ(report.findings[0].range.path, "/package/@version");
     EXPECT_EQ(report.findings[0].range.begin, (Place{1, 28}));
     EXPECT_EQ(report.findings[0].range.end, (Place{1, 31}));
-    EXPECT_EQ(report.findings[2].range.begin, (Place{7, 37}));
+    EXPECT_EQ(report.findings[2].range.begin, (Place{8, 37}));
     EXPECT_EQ(report.findings[2].range.path, "/package/contents/behaviorContent[2]/permissions/canSitDown[2]");
     ASSERT_THAT(report.findings[2].related, SizeIs(1));
-    EXPECT_EQ(report.findings[2].related[0].range.begin, (Place{7, 24}));
+    EXPECT_EQ(report.findings[2].related[0].range.begin, (Place{8, 24}));
     EXPECT_EQ(report.omitted, 0U);
 }
 
@@ -212,6 +213,7 @@ TEST(Check, LooksForTheProgramsOfServices)
                                                           {"python3 main.py", ""}}) {
         std::vector<std::string> ids =
             idsOf(check(SourceDocument::parse("<package uuid='u' version='1'><names><name lang='en'>N</name></names>"
+                                              "<descriptions><description lang='en'>D</description></descriptions>"
                                               "<descriptionLanguages><language>en</language></descriptionLanguages>"
                                               "<contents><webContent path='.'/></contents>"
                                               "<services><service name='s' execStart='" +

@@ -15,7 +15,7 @@ enum class ExampleFrame
     Document,  ///< they are whole documents
     RootTag,   ///< they are the start tag of the root
     Languages, ///< they declare the languages of the package
-    Package,   ///< they stand in the root, behind its names, languages and contents
+    Package,   ///< they stand in the root, behind its names, descriptions, languages and contents
     Contents,  ///< they stand in the contents of a package, behind a behavior with the folder "hello"
     Behavior   ///< they stand in that behavior, behind its nature
 };
