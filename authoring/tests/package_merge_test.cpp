@@ -210,7 +210,8 @@ TEST(PackageMerge, TextsOfWhiteSpaceStay)
 {
     PackageInfo ours;
     ours.setName("  ", "en");
-    EXPECT_EQ(mergePackages({}, ours, {}).ours.name("en"), "  ");
+    ours.setName("\r\n", "fr");
+    EXPECT_EQ(mergePackages({}, ours, {}).ours.names(), ours.names());
 }
 
 TEST(ManifestMerge, WithoutTheirChangesEveryByteOfOursStays)

@@ -45,7 +45,7 @@ PackageElement elementFrom(QXmlStreamReader& reader, const ElementEntry& entry)
 /// The text such that the package library's reader, which drops texts of white space alone, reads it.
 std::string readableText(const std::string& text)
 {
-    const bool wouldBeDropped = !text.empty() && isBlank(text) && text.find('\r') == std::string::npos;
+    const bool wouldBeDropped = !text.empty() && isBlank(text);
     return wouldBeDropped ? "<![CDATA[" + text + "]]>" : escapedText(text);
 }
 

@@ -97,9 +97,9 @@ TEST(PackageJson, EachExampleComesBack)
 
 TEST(PackageFromJson, MembersStandInAnyOrderAndBlanksStay)
 {
-    const PackageInfo package =
-        packageFromJson("\xef\xbb\xbf"
-                        R"({"names": {"fr": " ", "en": "a\u0000\tb"}, "uuid": "u", "format_version": 1})");
+    const PackageInfo package = packageFromJson("\xef\xbb\xbf"
+                                                R"({"names": {"fr": " ", "de": "\r\n", "en": "a\u0000\tb"}, "uuid": "u",
+                            "format_version": 1})");
     EXPECT_EQ(package.uuid(), "u");
     EXPECT_EQ(package.name("fr"), " ");
     EXPECT_EQ(package.name("en"), "a\xef\xbf\xbd\tb");
@@ -116,6 +116,7 @@ TEST(PackageFromJson, WhatIsEmptyIsLikeWhatIsAbsent)
 
 struct Refusal
 {
+    EXPECT_EQ(package.name("de"), "\r\n");
     const char* json;
     const char* message;
 };
