@@ -29,6 +29,17 @@ bool isRegion(std::string_view part)
 
 bool isExtendedLanguage(std::string_view part) { return part.size() == 3 && lettersOnly(part); }
 
+/// Whether other languages extend this one. Behind any other one, three letters are no part that a code may have:
+/// countries have two.
+bool hasExtendedLanguages(std::string_view language)
+{
+    constexpr std::array<std::string_view, 9> k_extended = {"ar", "kok", "lv", "ms", "no", "sgn", "sw", "uz", "zh"};
+    return std::any_of(k_extended.begin(), k_extended.end(), [language](std::string_view known) {
+        return std::equal(language.begin(), language.end(), known.begin(), known.end(),
+                          [](char c, char knownCharacter) { return lowered(c) == knownCharacter; });
+    });
+}
+
 bool isVariant(std::string_view part)
 {
     return (part.size() >= 5 && part.size() <= 8) || (part.size() == 4 && isDigit(part.front()));
@@ -95,8 +106,10 @@ std::size_t takeLanguage(const std::vector<std::string_view>& parts, LanguageTag
         return 0;
     tag.language = language;
     std::size_t next = 1;
-    while (next < parts.size() && next <= k_mostExtended && isExtendedLanguage(parts[next]))
-        ++next;
+    if (hasExtendedLanguages(language)) {
+        while (next < parts.size() && next <= k_mostExtended && isExtendedLanguage(parts[next]))
+            ++next;
+    }
     if (next < parts.size() && isScript(parts[next]))
         tag.script = parts[next++];
     if (next < parts.size() && isRegion(parts[next]))

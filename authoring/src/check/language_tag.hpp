@@ -18,7 +18,8 @@ struct LanguageTag
 
 /// Takes a code apart by the syntax of BCP 47, with either hyphens or underscores between its parts.
 /// Codes that were registered before that syntax ("i-klingon", "en-GB-oed") are well-formed and have no parts.
-/// Languages of four letters and more, which nobody has, are refused.
+/// Languages of four letters and more, which nobody has, are refused, and so are three letters behind a language that
+/// no others extend: "en-USA" is meant for "en-US".
 /// @return nothing when it is not well-formed, the empty code included. The parts refer to `code`.
 std::optional<LanguageTag> parseLanguageTag(std::string_view code);
 

@@ -42,6 +42,10 @@ TEST(LanguageTag, IsRefusedWhenItIsNotWellFormed)
                              "i",
                              "en_GB-oed",
                              "zh-cmn-yue-nan-wuu",
+                             "en-USA",
+                             "fr_FRA",
+                             "deu-DEU",
+                             "en-abc-GB",
                              "en-A-"})
         EXPECT_FALSE(parseLanguageTag(code)) << code;
 }
@@ -53,7 +57,7 @@ TEST(LanguageTag, MayExtendALanguage)
     EXPECT_EQ(tag->language, "zh");
     EXPECT_EQ(tag->script, "Hans");
     EXPECT_EQ(tag->region, "CN");
-    for (const char* code : {"zh-yue", "sgn-ase", "zh_yue_HK", "zh-min-nan", "no-bok"})
+    for (const char* code : {"zh-yue", "sgn-ase", "zh_yue_HK", "zh-min-nan", "no-bok", "AR-ARZ-EG", "kok-gom"})
         EXPECT_EQ(unknownPart(*parseLanguageTag(code)), "") << code;
 }
 
