@@ -2,6 +2,7 @@
 #include "check/wording.hpp"
 #include "edit/reading.hpp"
 #include "edits.hpp"
+#include "special_entries.hpp"
 
 namespace zupackage::check {
 
@@ -40,11 +41,10 @@ void findPaddedTexts(const Checked& checked, Findings& findings)
 
 bool isBlankAndNotEmpty(std::string_view text) { return !text.empty() && isBlank(text); }
 
-/// Whether an attribute says something to people. Those that must be there and those of a form have rules of their own;
-/// a variable may well be a space.
+/// Whether an attribute says something to people. Those that must be there and those of a form have rules of their own.
 bool holdsText(const AttributeEntry& attribute)
 {
-    return attribute.kind == ValueKind::Text && !attribute.isRequired && attribute.name != "value";
+    return attribute.kind == ValueKind::Text && !attribute.isRequired && !authoring::mayBeBlank(attribute);
 }
 
 void findBlankTexts(const Checked& checked, Findings& findings)

@@ -1,5 +1,7 @@
 #include "schema/schema_types.hpp"
 
+#include "special_entries.hpp"
+
 #include <zupackage/behavior_info.hpp>
 
 namespace zupackage::authoring {
@@ -12,6 +14,7 @@ using zu::authoring::ValueKind;
 
 /// A text with something in it, no white space around that, and no U+FFFD.
 constexpr std::string_view k_textPattern = "[^\\s\xEF\xBF\xBD]([^\xEF\xBF\xBD]*[^\\s\xEF\xBF\xBD])?";
+constexpr std::string_view k_blankPattern = "\\s*";
 /// Anything without "]]>".
 constexpr std::string_view k_conditionPattern = R"(([^\]]|\][^\]]|\]\]+[^\]>])*\]*)";
 constexpr std::string_view k_versionPattern =
@@ -19,6 +22,9 @@ constexpr std::string_view k_versionPattern =
 constexpr std::string_view k_datePattern = R"([0-9]{4}-[0-9]{2}-[0-9]{2})";
 constexpr std::string_view k_languagePattern =
     R"([A-Za-z]{2,3}([_\-][A-Za-z0-9]{1,8})*|[xXiI]([_\-][A-Za-z0-9]{1,8})+)";
+
+/// The type of texts that may be white space alone, or empty.
+constexpr const char* k_blankOrText = "blankOrText";
 
 /// The same for what may be empty.
 std::string typeOrNothing(ValueKind kind) { return std::string(textType(kind)) + "OrNothing"; }
@@ -54,6 +60,19 @@ void writeType(SchemaWriter& out, ValueKind kind, const char* base, std::string_
     out.close();
 }
 
+void writeBlankOrText(SchemaWriter& out)
+{
+    out.open("xs:simpleType" + withAttribute("name", k_blankOrText));
+    out.open("xs:union" + withAttribute("memberTypes", textType(ValueKind::Text)));
+    out.open("xs:simpleType");
+    out.open("xs:restriction" + withAttribute("base", "xs:string"));
+    out.empty("xs:pattern" + withAttribute("value", k_blankPattern));
+    out.close();
+    out.close();
+    out.close();
+    out.close();
+}
+
 } // namespace
 
 const char* textType(ValueKind kind)
@@ -84,12 +103,15 @@ const char* textType(ValueKind kind)
 
 std::string attributeType(const AttributeEntry& attribute)
 {
+    if (mayBeBlank(attribute))
+        return k_blankOrText;
     return mayBeEmpty(attribute) ? typeOrNothing(attribute.kind) : textType(attribute.kind);
 }
 
 void writeTypes(SchemaWriter& out)
 {
     writeType(out, ValueKind::Text, "xs:string", "xs:pattern", {std::string(k_textPattern)});
+    writeBlankOrText(out);
     writeType(out, ValueKind::Condition, "text", "xs:pattern", {std::string(k_conditionPattern)});
     writeType(out, ValueKind::Flag, "xs:string", "xs:enumeration", {"true", "false", "1", "0"});
     writeType(out, ValueKind::LanguageCode, "xs:string", "xs:pattern", {std::string(k_languagePattern)});

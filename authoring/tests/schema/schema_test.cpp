@@ -4,6 +4,7 @@
 #include "support/program.hpp"
 #include "support/property.hpp"
 
+#include <zupackage/authoring/check.hpp>
 #include <zupackage/authoring/package_json.hpp>
 #include <zupackage/authoring/rule.hpp>
 #include <zupackage/authoring/schema.hpp>
@@ -63,6 +64,16 @@ std::set<std::string> beyondSchemas()
     return rules;
 }
 
+/// A manifest without findings but those of the services in it.
+std::string completeManifest(const std::string& services)
+{
+    return "<package uuid='u' version='1'><names><name lang='en'>N</name></names>"
+           "<descriptions><description lang='en'>D</description></descriptions>"
+           "<descriptionLanguages><language>en</language></descriptionLanguages><contents><webContent path='w'/>"
+           "</contents><services>" +
+           services + "</services></package>";
+}
+
 std::string manifestOf(const std::filesystem::path& folder) { return test::readFile(folder / "manifest.xml"); }
 
 } // namespace
@@ -80,6 +91,10 @@ TEST(XmlSchema, WhatChecksFindNothingInIsValid)
     Validation validation;
     for (const Rule& rule : rules())
         validation.add(std::string(rule.id), manifestWith(rule, rule.goodExample));
+    const std::string blankVariable = completeManifest("<service name='s' execStart='python3'>"
+                                                       "<envVar name='A' value=' '/></service>");
+    EXPECT_THAT(check(SourceDocument::parse(blankVariable)).findings, IsEmpty());
+    validation.add("blank variable", blankVariable);
     EXPECT_THAT(validation.refused(), IsEmpty());
 }
 
