@@ -3,6 +3,7 @@
 #include "check/forbidden_characters.hpp"
 #include "check/wording.hpp"
 #include "edits.hpp"
+#include "reference.hpp"
 
 #include <zupackage/package_info.hpp>
 
@@ -16,6 +17,8 @@ using zu::authoring::ExampleFrame;
 using zu::authoring::NodeKind;
 using zu::authoring::Severity;
 using zu::authoring::SyntaxError;
+
+constexpr char32_t k_lostCodePoint = 0xFFFD;
 
 /// What robots do with a document that is not well-formed.
 std::string leniencyTo(const SourceDocument& document)
@@ -54,14 +57,37 @@ void findForbiddenCharacters(const Checked& checked, Findings& findings)
         findings.at(range, {}, "a character that XML cannot carry");
 }
 
+/// Whether U+FFFD stands in a source, or a reference to it. In values it may stand for what XML cannot carry.
+bool hasReplacementCharacter(std::string_view source)
+{
+    if (source.find(authoring::k_replacementCharacter) != std::string_view::npos)
+        return true;
+    for (std::size_t at = source.find('&'); at != std::string_view::npos; at = source.find('&', at + 1)) {
+        const authoring::Reference reference = authoring::referenceAt(at, source);
+        if (reference.kind == authoring::ReferenceKind::Character && reference.codePoint == k_lostCodePoint)
+            return true;
+    }
+    return false;
+}
+
+bool isLost(std::string_view value, std::string_view source)
+{
+    return value.find(authoring::k_replacementCharacter) != std::string_view::npos && hasReplacementCharacter(source);
+}
+
 void findReplacementCharacters(const Checked& checked, Findings& findings)
 {
+    constexpr const char* k_message = "U+FFFD stands where a character was lost";
     const SourceDocument& document = checked.document;
     for (std::size_t i = 1; i < document.nodeCount(); ++i) {
         const SourceNode node = document.node(i);
         if ((node.kind() == NodeKind::Text || node.kind() == NodeKind::CData) &&
-            document.source(node.range()).find(authoring::k_replacementCharacter) != std::string_view::npos)
-            findings.at(node.range(), node.parent(), "U+FFFD stands where a character was lost");
+            isLost(node.value(), document.source(node.range())))
+            findings.at(node.range(), node.parent(), k_message);
+        for (const SourceAttribute attribute : node.attributes()) {
+            if (isLost(attribute.value(), document.source(attribute.valueRange())))
+                findings.at(attribute, k_message);
+        }
     }
 }
 

@@ -1,0 +1,36 @@
+#include "support/encodings.hpp"
+
+#include <zupackage/authoring/check.hpp>
+
+#include <gmock/gmock.h>
+
+/// Checks see what readers take from a manifest, however that is written.
+namespace zu::authoring {
+
+using testing::Contains;
+
+namespace {
+
+std::vector<std::string> idsFoundIn(const std::string& manifest)
+{
+    std::vector<std::string> ids;
+    for (const Diagnostic& finding : check(SourceDocument::parse(manifest)).findings)
+        ids.push_back(finding.rule);
+    return ids;
+}
+
+} // namespace
+
+TEST(CheckReading, FindsLostCharactersHoweverTheyAreWritten)
+{
+    const std::string lost = "\xEF\xBF\xBD";
+    const std::string text = "<p author='A'><names><name lang='en'>Caf" + lost + "</name></names></p>";
+    for (const std::string& bytes :
+         {text, test::encoded("<?xml version='1.0' encoding='UTF-16BE'?>" + text, "UTF-16BE"),
+          std::string("<p><names><name lang='en'>Caf&#xFFFD;</name></names></p>"), "<p author='" + lost + "'/>",
+          std::string("<p author='&#xFFFD;'/>")}) {
+        EXPECT_THAT(idsFoundIn(bytes), Contains("replacement-character")) << bytes;
+    }
+}
+
+} // namespace zu::authoring
