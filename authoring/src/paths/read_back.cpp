@@ -1,5 +1,6 @@
 #include "paths/read_back.hpp"
 
+#include "characters.hpp"
 #include "edit/reading.hpp"
 #include "package/package_element.hpp"
 #include "paths/path_rules.hpp"
@@ -107,21 +108,27 @@ private:
     std::string m_bytes;
 };
 
-bool saysAlike(ValueKind kind, const std::string& left, const std::string& right)
+/// The text as the package library's writer, which is asked what a package says, writes it: it drops a byte order mark.
+std::string_view writtenFrom(std::string_view text)
 {
-    const auto isTrue = [](const std::string& flag) { return flag == "true" || flag == "1"; };
+    return text.substr(0, k_byteOrderMark.size()) == k_byteOrderMark ? text.substr(k_byteOrderMark.size()) : text;
+}
+
+bool saysAlike(ValueKind kind, std::string_view left, std::string_view right)
+{
+    const auto isTrue = [](std::string_view flag) { return flag == "true" || flag == "1"; };
     return kind == ValueKind::Flag ? isTrue(left) == isTrue(right) : left == right;
 }
 
 bool saysAt(const PackageElement& element, const Statement& statement)
 {
     if (statement.attribute.empty())
-        return element.text == statement.text;
+        return element.text == writtenFrom(statement.text);
     const AttributeEntry* const attribute = element.entry->attribute(statement.attribute);
     if (!attribute)
         return true;
     const auto number = static_cast<std::size_t>(attribute - element.entry->attributes.data());
-    return saysAlike(attribute->kind, element.attributes[number], statement.text);
+    return saysAlike(attribute->kind, element.attributes[number], writtenFrom(statement.text));
 }
 
 /// Follows ways in a package. What is an entry's is sorted when a way first leads there: of long lists, each statement
@@ -142,7 +149,8 @@ private:
         if (step == statement.way.size())
             return saysAt(element, statement);
         const EntryStep& wanted = statement.way[step];
-        const auto [begin, end] = childrenOf(element).equal_range({wanted.entry, wanted.identity});
+        const auto [begin, end] =
+            childrenOf(element).equal_range({wanted.entry, std::string(writtenFrom(wanted.identity))});
         return std::any_of(begin, end, [&](const auto& child) { return say(*child.second, statement, step + 1); });
     }
 

@@ -74,6 +74,17 @@ TEST(PathEditReading, WhiteSpaceAloneIsRead)
     }
 }
 
+TEST(PathEditReading, AByteOrderMarkIsRead)
+{
+    const std::string mark = "\xef\xbb\xbf";
+    for (const std::string& text : {mark, mark + "A", mark + mark + "A"}) {
+        EXPECT_EQ(nameReadAfter(k_twoNames, text), text);
+    }
+    EXPECT_EQ(read(withText(k_twoNames, "@author", mark + "A").text()).author(), mark + "A");
+    const std::string marked = "<p><services><service name='" + mark + "s' execStart='a'/></services></p>";
+    EXPECT_EQ(refusal(marked, "services/service/@execStart", "b"), "");
+}
+
 TEST(PathEditReading, WhatAnEncodingCannotSayToReadersIsRefused)
 {
     const std::string latin = "<?xml version='1.0' encoding='ISO-8859-1'?>" + k_twoNames;
