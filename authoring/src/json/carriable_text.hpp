@@ -9,4 +9,7 @@ namespace zupackage::authoring {
 /// before it.
 std::string carriable(std::string_view text);
 
+/// The text without byte order marks before it.
+std::string_view withoutByteOrderMarks(std::string_view text);
+
 } // namespace zupackage::authoring

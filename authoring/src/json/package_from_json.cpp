@@ -1,3 +1,4 @@
+#include "characters.hpp"
 #include "check/wording.hpp"
 #include "json/element_builder.hpp"
 #include "limits.hpp"
@@ -14,13 +15,12 @@ namespace {
 using zu::authoring::PackageJsonError;
 using zu::authoring::Place;
 
-constexpr std::string_view k_utf8Mark = "\xEF\xBB\xBF";
 constexpr std::string_view k_betweenTokens = " \t\r\n,:";
 constexpr char k_hasZeroByte[] = "is no JSON: there is a zero byte";
 
 std::size_t beginOf(std::string_view text)
 {
-    return text.substr(0, k_utf8Mark.size()) == k_utf8Mark ? k_utf8Mark.size() : 0;
+    return text.substr(0, k_byteOrderMark.size()) == k_byteOrderMark ? k_byteOrderMark.size() : 0;
 }
 
 Place placeIn(std::string_view text, std::size_t offset)

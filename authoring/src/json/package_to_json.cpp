@@ -1,3 +1,4 @@
+#include "json/carriable_text.hpp"
 #include "json/json_form.hpp"
 #include "package/package_element.hpp"
 
@@ -125,6 +126,25 @@ ordered_json jsonOf(const PackageElement& element)
     return nullptr;
 }
 
+bool dropByteOrderMarks(std::string& text)
+{
+    const std::size_t size = text.size() - withoutByteOrderMarks(text).size();
+    text.erase(0, size);
+    return size > 0;
+}
+
+/// The writer takes away one before each text, and the reader of JSON any number.
+/// @return whether there were any.
+bool dropByteOrderMarks(PackageElement& element)
+{
+    bool hadMarks = dropByteOrderMarks(element.text);
+    for (std::string& value : element.attributes)
+        hadMarks = dropByteOrderMarks(value) || hadMarks;
+    for (PackageElement& child : element.children)
+        hadMarks = dropByteOrderMarks(child) || hadMarks;
+    return hadMarks;
+}
+
 /// Whether keys of maps are not in their order. The writer replaces what a manifest cannot carry, so that keys may have
 /// become equal.
 bool hasDisorderedKeys(const PackageElement& element)
@@ -166,8 +186,9 @@ std::string toJson(const PackageInfo& package)
 {
     using namespace zupackage::authoring;
     PackageElement root = elementOf(package);
-    // What becomes of equal keys and entries is the reader's to say.
-    if (hasDisorderedKeys(root) || hasRepeatedEntries(root))
+    const bool hadMarks = dropByteOrderMarks(root);
+    // What becomes of equal keys and entries, and of empty texts, is the reader's to say.
+    if (hadMarks || hasDisorderedKeys(root) || hasRepeatedEntries(root))
         root = elementOf(packageOf(root));
     ordered_json json = ordered_json::object();
     add(json, k_formatVersionKey, k_formatVersion);

@@ -55,10 +55,11 @@ private:
 /// every key.
 ///
 /// What PackageInfo::saveToManifestContent() leaves out or replaces is left out or replaced here, too: installer, path
-/// and empty texts are not there, and what XML cannot carry or is no UTF-8 is U+FFFD.
+/// and empty texts are not there, what XML cannot carry or is no UTF-8 is U+FFFD, and byte order marks before a text
+/// are gone, all of them, of which each writing of a manifest takes away one.
 ///
-/// Throws std::runtime_error in one case: keys or languages have become equal by U+FFFD, so that the manifest must tell
-/// what becomes of them, and is larger than those that are read. May be called by several threads at once, on packages
+/// Throws std::runtime_error in one case: keys or languages may have become equal by U+FFFD or without byte order
+/// marks, so that the manifest must tell what becomes of them, and is larger than those that are read. May be called by several threads at once, on packages
 /// of their own.
 ZUPACKAGE_AUTHORING_EXPORT std::string toJson(const PackageInfo& package);
 
