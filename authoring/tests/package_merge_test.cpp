@@ -235,7 +235,7 @@ TEST(ManifestMerge, TellsWhatTheyChangedThatIsNoPartOfThePackage)
         {"<p><!-- b --></p>", {"-<!-- a -->", "+<!-- b -->"}},
         {"<p/>", {"-<!-- a -->"}},
         {"<p odd='1'><!-- a --></p>", {"+odd='1'"}},
-        {"<p><!-- a --><odd/></p>", {"+<odd/>"}},
+        {"<p><!-- a --><odd><x a='1'/><!-- b --></odd></p>", {"+<odd><x a='1'/><!-- b --></odd>"}},
         {"<p><!-- a --><?odd?></p>", {"+<?odd?>"}},
         {"<p><!-- a --><!-- a --></p>", {"+<!-- a -->"}},
         {"<p><!-- a --><contents><webContent path='w'/></contents></p>", {"+<webContent path='w'/>"}},

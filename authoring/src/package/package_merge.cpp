@@ -41,10 +41,16 @@ std::map<std::string, int> textsOutsidePackage(const std::string& manifest)
     const SourceDocument document = SourceDocument::parse(manifest);
     const zupackage::check::Outline outline(document);
     std::map<std::string, int> texts;
+    std::size_t toldEnd = 0; // of the last node that was told, with all that stands in it
     for (std::size_t i = 0; i < document.nodeCount(); ++i) {
         const SourceNode node = document.node(i);
-        if (isOutsidePackage(node, outline))
+        if (node.range().begin < toldEnd)
+            continue;
+        if (isOutsidePackage(node, outline)) {
             ++texts[std::string(document.source(node.range()))];
+            toldEnd = node.range().end;
+            continue;
+        }
         const ElementEntry* const entry = outline.entry(node);
         for (const SourceAttribute attribute : node.attributes()) {
             if (entry && !entry->attribute(attribute.name()))
