@@ -2,6 +2,7 @@
 #include "check/repetition.hpp"
 #include "check/wording.hpp"
 #include "edits.hpp"
+#include "special_entries.hpp"
 
 #include <map>
 
@@ -9,6 +10,7 @@ namespace zupackage::check {
 
 namespace {
 
+using authoring::isWebContent;
 using zu::authoring::ExampleFrame;
 using zu::authoring::Occurrence;
 using zu::authoring::Severity;
@@ -45,7 +47,6 @@ void findRepeatedSections(const Checked& checked, Findings& findings)
 }
 
 bool isPermission(const ElementEntry& entry) { return entry.parent && entry.parent->name == "permissions"; }
-bool isWebContent(const ElementEntry& entry) { return entry.path == "/package/contents/webContent"; }
 
 void findRepeatedElements(const Checked& checked, Findings& findings)
 {

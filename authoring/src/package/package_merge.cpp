@@ -1,5 +1,6 @@
 #include "check/outline.hpp"
 #include "package/element_merge.hpp"
+#include "special_entries.hpp"
 
 #include <zupackage/authoring/manifest_editor.hpp>
 #include <zupackage/authoring/package_merge.hpp>
@@ -11,9 +12,6 @@ namespace zu::authoring {
 namespace {
 
 using namespace zupackage::authoring;
-
-/// Known to the vocabulary, but not to PackageInfo.
-constexpr std::string_view k_webContent = "webContent";
 
 PackageElement elementIn(const std::string& manifest)
 {
@@ -31,8 +29,10 @@ bool isOutsidePackage(SourceNode node, const zupackage::check::Outline& outline)
         return true;
     if (!node.isElement())
         return false;
+    if (const ElementEntry* const entry = outline.entry(node))
+        return isWebContent(*entry);
     const ElementEntry* const parent = outline.entry(node.parent());
-    return node.localName() == k_webContent || (!outline.entry(node) && !(parent && parent->countsEveryChild));
+    return !parent || !parent->countsEveryChild;
 }
 
 /// How often each text stands in a manifest that is no part of its package, in alphabetical order.

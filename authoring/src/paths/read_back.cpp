@@ -5,6 +5,7 @@
 #include "package/package_element.hpp"
 #include "paths/path_rules.hpp"
 #include "paths/vocabulary_of_nodes.hpp"
+#include "special_entries.hpp"
 
 #include <zupackage/package_info.hpp>
 
@@ -171,12 +172,11 @@ private:
     std::unordered_map<const PackageElement*, Children> m_children;
 };
 
-/// Whether a package need not say it: nothing, and what stands in web content, which packages do not hold.
+/// Whether a package need not say it: nothing, and what stands in web content.
 bool isBeyondPackages(const Statement& statement)
 {
-    return statement.text.empty() || std::any_of(statement.way.begin(), statement.way.end(), [](const EntryStep& step) {
-               return step.entry->name == "webContent";
-           });
+    return statement.text.empty() || std::any_of(statement.way.begin(), statement.way.end(),
+                                                 [](const EntryStep& step) { return isWebContent(*step.entry); });
 }
 
 std::optional<WaysOfPackage> packageIn(const std::string& manifest)
