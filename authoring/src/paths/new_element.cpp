@@ -161,13 +161,16 @@ void setWithin(NewElement& element, const ElementEntry* entry, const ManifestPat
         target = &childFor(step, *parent);
     }
     const bool canRepeat = parent && (!entry || entry->occurrence == Occurrence::Repeated);
-    if (!canSay(*target, path.attribute(), text) && canRepeat) {
+    const auto& set = target->partsSet;
+    const bool isSet = std::find(set.begin(), set.end(), path.attribute()) != set.end();
+    if (canRepeat && (isSet || !canSay(*target, path.attribute(), text))) {
         parent->children.push_back(elementFor(path.steps().back()));
         target = &parent->children.back();
     }
     if (!canSay(*target, path.attribute(), text))
         refuse("\"" + path.text() + "\" cannot become " + check::inQuotes(text) + " and something else, too");
     say(*target, path.attribute(), text);
+    target->partsSet.push_back(path.attribute());
 }
 
 NewElement& makeChain(const std::vector<PathStep>& steps, NewElement& outermost)

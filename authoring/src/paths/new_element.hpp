@@ -17,6 +17,8 @@ struct NewElement
     std::vector<std::pair<std::string, std::string>> attributes;
     std::string text;
     std::vector<NewElement> children;
+    /// The attributes that setWithin() has set; among them, empty, the text.
+    std::vector<std::string> partsSet = {};
 
     const std::string* attribute(std::string_view attributeName) const;
     void setAttribute(const std::string& attributeName, const std::string& value);
@@ -33,7 +35,7 @@ bool canSay(const NewElement& element, const std::string& attribute, std::string
 void say(NewElement& element, const std::string& attribute, std::string_view text);
 
 /// Sets a text within the element, and makes what the path to it lacks: another entry, too, where there can be several
-/// and the last one says something else.
+/// and the last one says something else or has been told to say this.
 /// @param entry what the vocabulary says about the element; null when it says nothing.
 /// @throws PathEditError as elementFor(), and when something else is to stand there already.
 void setWithin(NewElement& element, const zu::authoring::ElementEntry* entry, const zu::authoring::ManifestPath& path,

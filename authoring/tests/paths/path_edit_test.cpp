@@ -115,6 +115,15 @@ TEST(PathEdit, WhatComesFirstStandsFirst)
               "<contents/>\n</package>");
 }
 
+TEST(PathEdit, PartsThatAreAlikeAreEntriesOfTheirOwn)
+{
+    const SetText fun = setting("tags/tag[@lang='en']", "fun");
+    EXPECT_EQ(edit("<p><contents><behaviorContent path='a'/></contents></p>",
+                   {adding("contents/behaviorContent[@path='b']", {fun, fun})}),
+              "<p><contents><behaviorContent path='a'/><behaviorContent path='b'><tags><tag lang='en'>fun</tag>"
+              "<tag lang='en'>fun</tag></tags></behaviorContent></contents></p>");
+}
+
 TEST(PathEdit, NewEntriesAreLaidOutAsTheirNeighbours)
 {
     const AddEntry german = adding("names/name", {setting("@lang", "de"), setting(".", "E")});
