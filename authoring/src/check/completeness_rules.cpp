@@ -34,14 +34,6 @@ void findMissingAttributes(const Checked& checked, Findings& findings)
     }
 }
 
-bool hasElements(const std::vector<SourceNode>& containers)
-{
-    return std::any_of(containers.begin(), containers.end(), [](SourceNode container) {
-        const auto children = container.children();
-        return std::any_of(children.begin(), children.end(), [](SourceNode child) { return child.isElement(); });
-    });
-}
-
 /// Says that the package has none of those, unless some of it may stand behind an error that ended the document.
 void findMissingSection(const Checked& checked, Findings& findings, std::string_view path, std::string message)
 {

@@ -1,5 +1,7 @@
 #include "check/outline.hpp"
 
+#include <algorithm>
+
 namespace zupackage::check {
 
 using zu::authoring::Vocabulary;
@@ -48,6 +50,14 @@ std::vector<SourceNode> childrenNamed(SourceNode node, std::string_view name)
             result.push_back(child);
     }
     return result;
+}
+
+bool hasElements(const std::vector<SourceNode>& containers)
+{
+    return std::any_of(containers.begin(), containers.end(), [](SourceNode container) {
+        const auto children = container.children();
+        return std::any_of(children.begin(), children.end(), [](SourceNode child) { return child.isElement(); });
+    });
 }
 
 } // namespace zupackage::check

@@ -50,4 +50,7 @@ std::string_view plainValue(SourceNode element, std::string_view name);
 /// The elements in a node that have that name, without a prefix.
 std::vector<SourceNode> childrenNamed(SourceNode node, std::string_view name);
 
+/// Whether any of the nodes has an element in it, whatever it is called.
+bool hasElements(const std::vector<SourceNode>& containers);
+
 } // namespace zupackage::check

@@ -187,9 +187,7 @@ void findUnaskedBehaviors(const Checked& checked, Findings& findings)
     for (const SourceNode behavior : checked.outline.elements(k_behavior)) {
         const auto requestable = childrenNamed(behavior, "userRequestable");
         const auto sentences = childrenNamed(behavior, "triggerSentences");
-        const bool hasSentence = std::any_of(sentences.begin(), sentences.end(),
-                                             [](SourceNode list) { return !childrenNamed(list, "sentence").empty(); });
-        if (!requestable.empty() && !hasSentence)
+        if (!requestable.empty() && !hasElements(sentences))
             findings.at(requestable.front(), "people may ask for the behavior, but no sentence starts it");
     }
 }

@@ -8,6 +8,7 @@
 namespace zu::authoring {
 
 using testing::Contains;
+using testing::Not;
 
 namespace {
 
@@ -31,6 +32,17 @@ TEST(CheckReading, FindsLostCharactersHoweverTheyAreWritten)
           std::string("<p author='&#xFFFD;'/>")}) {
         EXPECT_THAT(idsFoundIn(bytes), Contains("replacement-character")) << bytes;
     }
+}
+
+TEST(CheckReading, TakesAnyElementAmongSentencesForOne)
+{
+    const auto idsWith = [](const std::string& sentence) {
+        return idsFoundIn("<package><contents><behaviorContent path='b'><userRequestable/>"
+                          "<triggerSentences>" +
+                          sentence + "</triggerSentences></behaviorContent></contents></package>");
+    };
+    EXPECT_THAT(idsWith("<phrase lang='en'>Go</phrase>"), Not(Contains("unasked-behavior")));
+    EXPECT_THAT(idsWith(""), Contains("unasked-behavior"));
 }
 
 } // namespace zu::authoring
