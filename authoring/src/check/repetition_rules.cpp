@@ -25,7 +25,7 @@ struct Repetition
 
 std::string keyOf(SourceNode element, std::string_view key)
 {
-    return key == "." ? edit::readText(element) : std::string(plainValue(element, key));
+    return key == "." ? edit::readText(element) : edit::readAttribute(element, key);
 }
 
 /// Reports the elements of an entry that have one parent and one key. Empty keys have a rule of their own.
@@ -97,7 +97,7 @@ void reportAlike(const Checked& checked, Findings& findings, std::string_view pa
     for (const SourceNode element : checked.outline.elements(path)) {
         std::string values;
         for (const AttributeEntry& known : checked.outline.entry(element)->attributes)
-            values.append(plainValue(element, known.name)).push_back('\0');
+            values.append(edit::readAttribute(element, known.name)).push_back('\0');
         const auto [place, isNew] = seen.try_emplace(std::move(values), element);
         if (!isNew)
             reportPair(checked, findings, place->second, element, Fate::BothCount, "the requirement stands here twice");
@@ -126,7 +126,7 @@ void findRepeatedTexts(const Checked& checked, Findings& findings)
             const std::string text = edit::readText(element);
             if (isBlank(text))
                 continue;
-            std::string key = std::string(plainValue(element, list.key)) + '\0' + text;
+            std::string key = edit::readAttribute(element, list.key) + '\0' + text;
             const auto [place, isNew] = seen.try_emplace({element.parent().index(), std::move(key)}, element);
             if (!isNew)
                 reportPair(checked, findings, place->second, element, Fate::BothCount,

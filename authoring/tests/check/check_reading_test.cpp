@@ -34,6 +34,17 @@ TEST(CheckReading, FindsLostCharactersHoweverTheyAreWritten)
     }
 }
 
+TEST(CheckReading, TakesForOneWhatReadersTakeForOne)
+{
+    const auto idsWith = [](const std::string& second) {
+        return idsFoundIn("<package><services><service name='s' execStart='python3'>"
+                          "<envVar name='a b'/><envVar name='" +
+                          second + "'/></service></services></package>");
+    };
+    EXPECT_THAT(idsWith("a&#32;b"), Contains("repeated-env-var"));
+    EXPECT_THAT(idsWith("a\tb"), Not(Contains("repeated-env-var")));
+}
+
 TEST(CheckReading, TakesAnyElementAmongSentencesForOne)
 {
     const auto idsWith = [](const std::string& sentence) {
