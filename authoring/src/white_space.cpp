@@ -22,7 +22,9 @@ std::size_t whiteSpaceAt(std::size_t at, std::string_view text)
     if (size == 0 || character.size() < size ||
         !std::all_of(character.begin() + 1, character.end(), continuesCharacter))
         return 0;
-    return QChar::isSpace(characterAt(0, character).codePoint) ? size : 0;
+    const char32_t codePoint = characterAt(0, character).codePoint;
+    const bool isOverlong = size == 3 && codePoint < 0x800;
+    return !isOverlong && QChar::isSpace(codePoint) ? size : 0;
 }
 
 /// Where the white space at the beginning ends.

@@ -65,7 +65,8 @@ TEST(WhiteSpace, IsTakenFromBothEnds)
 
 TEST(WhiteSpace, IsNoneInBytesThatAreNoCharacter)
 {
-    for (const char* bytes : {"\xC2", "\xA0", "\x82\xA0", "\xC2 ", "\xE3\x80", "\xE3\x80 ", "\xF0\x9F\x98\x80"}) {
+    for (const char* bytes : {"\xC2", "\xA0", "\x82\xA0", "\xC2 ", "\xE3\x80", "\xE3\x80 ", "\xF0\x9F\x98\x80",
+                              "\xC0\xA0", "\xE0\x80\xA0", "\xE0\x82\xA0"}) {
         EXPECT_FALSE(isBlank(bytes)) << bytes;
         EXPECT_EQ(trimmed(bytes).substr(0, 1), std::string(bytes).substr(0, 1));
     }
