@@ -1,6 +1,6 @@
 // Checking a manifest beside the bare lenient parse of the same bytes.
+#include "manifest_sizes.hpp"
 #include "ratio_reporter.hpp"
-#include "sample_packages.hpp"
 
 #include <zupackage/authoring/check.hpp>
 
@@ -10,15 +10,9 @@
 
 namespace {
 
-/// The manifest of a package with as many behaviors as the benchmark's argument says; ten take 20 kB.
-std::string content(const benchmark::State& state)
-{
-    return bench::package(static_cast<int>(state.range(0))).saveToManifestContent();
-}
-
 void bareParse(benchmark::State& state)
 {
-    const std::string text = content(state);
+    const std::string text = bench::manifestFor(state);
     for (auto _ : state) {
         QDomDocument document;
         benchmark::DoNotOptimize(
@@ -28,14 +22,13 @@ void bareParse(benchmark::State& state)
 
 void check(benchmark::State& state)
 {
-    const std::string text = content(state);
+    const std::string text = bench::manifestFor(state);
     for (auto _ : state)
         benchmark::DoNotOptimize(zu::authoring::check(zu::authoring::SourceDocument::parse(text)).findings.size());
 }
 
-void sizes(benchmark::internal::Benchmark* benchmark) { benchmark->RangeMultiplier(10)->Range(1, 1000); }
-BENCHMARK(bareParse)->Apply(&sizes);
-BENCHMARK(check)->Apply(&sizes);
+BENCHMARK(bareParse)->Apply(&bench::tenfold);
+BENCHMARK(check)->Apply(&bench::tenfold);
 
 } // namespace
 

@@ -1,7 +1,7 @@
 // Copying a package, by itself and held by a value of the type system, beside copying its containers.
 #include "bare_package.hpp"
+#include "manifest_sizes.hpp"
 #include "ratio_reporter.hpp"
-#include "sample_packages.hpp"
 
 #include <zu/any_value.hpp>
 
@@ -30,9 +30,9 @@ void copyAnyValue(benchmark::State& state)
         benchmark::DoNotOptimize(zu::AnyValue(source));
 }
 
-BENCHMARK(copyContainers)->RangeMultiplier(10)->Range(1, 1000);
-BENCHMARK(copyPackage)->RangeMultiplier(10)->Range(1, 1000);
-BENCHMARK(copyAnyValue)->RangeMultiplier(10)->Range(1, 1000);
+BENCHMARK(copyContainers)->Apply(&bench::tenfold);
+BENCHMARK(copyPackage)->Apply(&bench::tenfold);
+BENCHMARK(copyAnyValue)->Apply(&bench::tenfold);
 
 } // namespace
 

@@ -56,7 +56,7 @@ void loadManifest(benchmark::State& state, const std::string& content)
 }
 
 /// How long reading may take in proportion to the parser alone.
-constexpr double k_atMost = 0.8;
+constexpr double k_readingAtMost = 0.8;
 
 } // namespace
 
@@ -70,9 +70,9 @@ int main(int argc, char** argv)
         };
         const std::string text = add("parseText", parseText);
         const std::string file = add("parseFile", parseFile);
-        targets.push_back({add("loadFromManifestContent", loadFromManifestContent), text, k_atMost});
-        targets.push_back({add("loadFromManifestFile", loadFromManifestFile), file, k_atMost});
-        targets.push_back({add("loadManifest", loadManifest), file, k_atMost});
+        targets.push_back({add("loadFromManifestContent", loadFromManifestContent), text, k_readingAtMost});
+        targets.push_back({add("loadFromManifestFile", loadFromManifestFile), file, k_readingAtMost});
+        targets.push_back({add("loadManifest", loadManifest), file, k_readingAtMost});
     }
     return bench::run(argc, argv, std::move(targets));
 }

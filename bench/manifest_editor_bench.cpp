@@ -1,7 +1,7 @@
 // Editing a manifest, beside a bare pass of QXmlStreamReader over the bytes and writing them, and beside reading it.
 #include "manifest_file.hpp"
+#include "manifest_sizes.hpp"
 #include "ratio_reporter.hpp"
-#include "sample_packages.hpp"
 
 #include <zupackage/authoring/manifest_editor.hpp>
 
@@ -14,12 +14,6 @@ namespace {
 
 using zu::authoring::ManifestEditor;
 using zu::authoring::SourceDocument;
-
-/// The manifest of a package with as many behaviors as the benchmark's argument says; 1,000 take 2 MB.
-std::string content(const benchmark::State& state)
-{
-    return bench::package(static_cast<int>(state.range(0))).saveToManifestContent();
-}
 
 void write(const bench::ManifestFile& manifest, const std::string& bytes)
 {
@@ -37,7 +31,7 @@ zu::PackageInfo changed(zu::PackageInfo package)
 
 void passAndWrite(benchmark::State& state)
 {
-    const std::string text = content(state);
+    const std::string text = bench::manifestFor(state);
     const bench::ManifestFile manifest(text);
     for (auto _ : state) {
         QXmlStreamReader reader(QByteArray::fromRawData(text.data(), static_cast<int>(text.size())));
@@ -49,7 +43,7 @@ void passAndWrite(benchmark::State& state)
 
 void openEditAndWrite(benchmark::State& state)
 {
-    const std::string text = content(state);
+    const std::string text = bench::manifestFor(state);
     const bench::ManifestFile manifest(text);
     for (auto _ : state) {
         ManifestEditor editor(SourceDocument::parse(text));
@@ -60,7 +54,7 @@ void openEditAndWrite(benchmark::State& state)
 
 void read(benchmark::State& state)
 {
-    const std::string text = content(state);
+    const std::string text = bench::manifestFor(state);
     for (auto _ : state) {
         zu::PackageInfo package;
         benchmark::DoNotOptimize(zu::readManifest(text, package));
@@ -69,7 +63,7 @@ void read(benchmark::State& state)
 
 void update(benchmark::State& state)
 {
-    const ManifestEditor opened(SourceDocument::parse(content(state)));
+    const ManifestEditor opened(SourceDocument::parse(bench::manifestFor(state)));
     const zu::PackageInfo package = changed(opened.package());
     for (auto _ : state) {
         ManifestEditor editor = opened;
@@ -78,11 +72,11 @@ void update(benchmark::State& state)
     }
 }
 
-void sizes(benchmark::internal::Benchmark* benchmark) { benchmark->Arg(10)->Arg(1000)->Arg(2000); }
-BENCHMARK(passAndWrite)->Apply(&sizes);
-BENCHMARK(openEditAndWrite)->Apply(&sizes);
-BENCHMARK(read)->Apply(&sizes);
-BENCHMARK(update)->Apply(&sizes);
+void editedSizes(benchmark::internal::Benchmark* benchmark) { benchmark->Arg(10)->Arg(1000)->Arg(2000); }
+BENCHMARK(passAndWrite)->Apply(&editedSizes);
+BENCHMARK(openEditAndWrite)->Apply(&editedSizes);
+BENCHMARK(read)->Apply(&editedSizes);
+BENCHMARK(update)->Apply(&editedSizes);
 
 } // namespace
 

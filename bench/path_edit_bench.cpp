@@ -69,10 +69,10 @@ void setOneText(benchmark::State& state) { setText(state, "names/name[1]"); }
 
 void setTextOfEach(benchmark::State& state) { setText(state, "contents/behaviorContent/names/name[1]"); }
 
-void sizes(benchmark::internal::Benchmark* benchmark) { benchmark->Arg(20)->Arg(2000); }
-BENCHMARK(parseAndWrite)->Apply(&sizes);
-BENCHMARK(setOneText)->Apply(&sizes);
-BENCHMARK(setTextOfEach)->Apply(&sizes);
+void pathSizes(benchmark::internal::Benchmark* benchmark) { benchmark->Arg(20)->Arg(2000); }
+BENCHMARK(parseAndWrite)->Apply(&pathSizes);
+BENCHMARK(setOneText)->Apply(&pathSizes);
+BENCHMARK(setTextOfEach)->Apply(&pathSizes);
 
 } // namespace
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int k_behaviors = 10;
+constexpr int k_behaviorsInValues = 10;
 
 void referToAMemberByHand(benchmark::State& state)
 {
@@ -46,8 +46,8 @@ std::string dumpOf(const zu::PackageInfo& package)
 
 void compareDumps(benchmark::State& state)
 {
-    const zu::PackageInfo package = bench::package(k_behaviors);
-    const zu::PackageInfo other = bench::package(k_behaviors);
+    const zu::PackageInfo package = bench::package(k_behaviorsInValues);
+    const zu::PackageInfo other = bench::package(k_behaviorsInValues);
     for (auto _ : state)
         benchmark::DoNotOptimize(dumpOf(package) == dumpOf(other));
 }
@@ -55,8 +55,8 @@ BENCHMARK(compareDumps)->Name("equal packages/dumps");
 
 void compareByTheTypeSystem(benchmark::State& state)
 {
-    const zu::PackageInfo package = bench::package(k_behaviors);
-    const zu::PackageInfo other = bench::package(k_behaviors);
+    const zu::PackageInfo package = bench::package(k_behaviorsInValues);
+    const zu::PackageInfo other = bench::package(k_behaviorsInValues);
     for (auto _ : state)
         benchmark::DoNotOptimize(zu::AnyReference::from(package) == zu::AnyReference::from(other));
 }
@@ -64,7 +64,7 @@ BENCHMARK(compareByTheTypeSystem)->Name("equal packages/type system");
 
 void printADump(benchmark::State& state)
 {
-    const zu::PackageInfo package = bench::package(k_behaviors);
+    const zu::PackageInfo package = bench::package(k_behaviorsInValues);
     for (auto _ : state)
         benchmark::DoNotOptimize(dumpOf(package));
 }
@@ -72,7 +72,7 @@ BENCHMARK(printADump)->Name("print a package/dump");
 
 void printByTheTypeSystem(benchmark::State& state)
 {
-    const zu::PackageInfo package = bench::package(k_behaviors);
+    const zu::PackageInfo package = bench::package(k_behaviorsInValues);
     for (auto _ : state) {
         std::ostringstream stream;
         stream << zu::AnyReference::from(package);
@@ -81,7 +81,7 @@ void printByTheTypeSystem(benchmark::State& state)
 }
 BENCHMARK(printByTheTypeSystem)->Name("print a package/type system");
 
-std::vector<bench::Target> targets()
+std::vector<bench::Target> valueTargets()
 {
     return {{"member/by index", "member/by hand", 0},
             {"member/by name", "member/by index", 0},
@@ -92,4 +92,4 @@ std::vector<bench::Target> targets()
 } // namespace
 
 /// Exits with 1 when a target was missed.
-int main(int argc, char** argv) { return bench::run(argc, argv, targets()); }
+int main(int argc, char** argv) { return bench::run(argc, argv, valueTargets()); }

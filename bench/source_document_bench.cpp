@@ -1,6 +1,6 @@
 // Reading a document strictly with the places of everything, beside a bare pass of QXmlStreamReader over the bytes.
+#include "manifest_sizes.hpp"
 #include "ratio_reporter.hpp"
-#include "sample_packages.hpp"
 
 #include <zupackage/authoring/source_document.hpp>
 
@@ -10,15 +10,9 @@
 
 namespace {
 
-/// The manifest of a package with as many behaviors as the benchmark's argument says.
-std::string content(const benchmark::State& state)
-{
-    return bench::package(static_cast<int>(state.range(0))).saveToManifestContent();
-}
-
 void streamReader(benchmark::State& state)
 {
-    const std::string text = content(state);
+    const std::string text = bench::manifestFor(state);
     for (auto _ : state) {
         QXmlStreamReader reader(QByteArray::fromRawData(text.data(), static_cast<int>(text.size())));
         while (!reader.atEnd())
@@ -30,7 +24,7 @@ void streamReader(benchmark::State& state)
 
 void sourceDocument(benchmark::State& state)
 {
-    const std::string text = content(state);
+    const std::string text = bench::manifestFor(state);
     for (auto _ : state)
         benchmark::DoNotOptimize(zu::authoring::SourceDocument::parse(text).isWellFormed());
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
@@ -39,17 +33,16 @@ void sourceDocument(benchmark::State& state)
 /// With a document type, QXmlStreamReader goes over it, too.
 void sourceDocumentWithType(benchmark::State& state)
 {
-    std::string text = content(state);
+    std::string text = bench::manifestFor(state);
     text.insert(text.find("<package"), "<!DOCTYPE package [<!ENTITY e 'text'>]>\n");
     for (auto _ : state)
         benchmark::DoNotOptimize(zu::authoring::SourceDocument::parse(text).isWellFormed());
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
 
-void sizes(benchmark::internal::Benchmark* benchmark) { benchmark->RangeMultiplier(10)->Range(1, 1000); }
-BENCHMARK(streamReader)->Apply(&sizes);
-BENCHMARK(sourceDocument)->Apply(&sizes);
-BENCHMARK(sourceDocumentWithType)->Apply(&sizes);
+BENCHMARK(streamReader)->Apply(&bench::tenfold);
+BENCHMARK(sourceDocument)->Apply(&bench::tenfold);
+BENCHMARK(sourceDocumentWithType)->Apply(&bench::tenfold);
 
 } // namespace
 

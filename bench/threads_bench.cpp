@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int k_behaviors = 100;
+constexpr int k_behaviorsRead = 100;
 constexpr int k_reads = 20;
 
 void readAgainAndAgain(const bench::ManifestFile& manifest)
@@ -20,15 +20,15 @@ void readAgainAndAgain(const bench::ManifestFile& manifest)
 
 void readOnOneThread(benchmark::State& state)
 {
-    const bench::ManifestFile manifest(k_behaviors);
+    const bench::ManifestFile manifest(k_behaviorsRead);
     for (auto _ : state)
         readAgainAndAgain(manifest);
 }
 
 void readOnTwoThreads(benchmark::State& state)
 {
-    const bench::ManifestFile manifest(k_behaviors);
-    const bench::ManifestFile other(k_behaviors);
+    const bench::ManifestFile manifest(k_behaviorsRead);
+    const bench::ManifestFile other(k_behaviorsRead);
     for (auto _ : state) {
         std::thread second([&other] { readAgainAndAgain(other); });
         readAgainAndAgain(manifest);

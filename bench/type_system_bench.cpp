@@ -209,7 +209,7 @@ void bareThrow(benchmark::State& state)
 }
 BENCHMARK(bareThrow)->Name("failure/bare throw");
 
-std::vector<bench::Target> targets()
+std::vector<bench::Target> typeTargets()
 {
     return {{"int/AnyValue", "int/QVariant", 1.0},
             {"int/AnyValue", "int/std::any", 0},
@@ -235,4 +235,4 @@ std::vector<bench::Target> targets()
 } // namespace
 
 /// Exits with 1 when a target was missed.
-int main(int argc, char** argv) { return bench::run(argc, argv, targets()); }
+int main(int argc, char** argv) { return bench::run(argc, argv, typeTargets()); }

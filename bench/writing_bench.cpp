@@ -23,7 +23,7 @@ void finishedTreeToString(benchmark::State& state, const std::string& content)
 }
 
 /// How long writing may take in proportion.
-constexpr double k_atMost = 0.2;
+constexpr double k_writingAtMost = 0.2;
 
 } // namespace
 
@@ -31,7 +31,7 @@ int main(int argc, char** argv)
 {
     std::vector<bench::Target> targets;
     for (const auto& [name, content] : bench::sampleManifests()) {
-        targets.push_back({"saveToManifestContent/" + name, "finishedTreeToString/" + name, k_atMost});
+        targets.push_back({"saveToManifestContent/" + name, "finishedTreeToString/" + name, k_writingAtMost});
         benchmark::RegisterBenchmark(targets.back().what.c_str(), saveToManifestContent, content);
         benchmark::RegisterBenchmark(targets.back().floor.c_str(), finishedTreeToString, content);
     }

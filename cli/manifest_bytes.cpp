@@ -49,7 +49,7 @@ bool readDescriptor(int descriptor, std::size_t block, std::size_t most, std::st
         const std::size_t before = bytes.size();
         const std::size_t wanted = std::min(block, most - before);
         bytes.resize(before + wanted);
-        const ssize_t count = read(descriptor, &bytes[before], wanted);
+        const ssize_t count = ::read(descriptor, &bytes[before], wanted);
         const bool isInterrupted = count < 0 && errno == EINTR;
         if (count < 0 && !isInterrupted)
             failure = lastError();

@@ -22,7 +22,7 @@ void inOrder(std::size_t count, Make make, Take take)
         std::exception_ptr error;
         bool isDone = false;
     };
-    std::vector<Slot> slots(count);
+    std::vector<Slot> results(count);
     std::mutex mutex;
     std::condition_variable isDone;
     std::atomic<std::size_t> next{0};
@@ -36,7 +36,7 @@ void inOrder(std::size_t count, Make make, Take take)
                 error = std::current_exception();
             }
             const std::lock_guard lock(mutex);
-            slots[i] = {std::move(result), error, true};
+            results[i] = {std::move(result), error, true};
             isDone.notify_one();
         }
     };
@@ -50,9 +50,9 @@ void inOrder(std::size_t count, Make make, Take take)
         Slot slot;
         {
             std::unique_lock lock(mutex);
-            isDone.wait(lock, [&] { return slots[i].isDone; });
-            slot = std::move(slots[i]);
-            slots[i].result.reset();
+            isDone.wait(lock, [&] { return results[i].isDone; });
+            slot = std::move(results[i]);
+            results[i].result.reset();
         }
         error = slot.error;
         if (!error && !take(std::move(*slot.result)))

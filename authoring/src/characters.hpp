@@ -36,6 +36,9 @@ struct Character
     std::size_t size; ///< in bytes
 };
 
+/// Whether a byte is the second of a character or a later one.
+inline bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+
 /// The character that begins there.
 Character characterAt(std::size_t at, std::string_view utf8);
 

@@ -15,7 +15,7 @@ using zu::authoring::TextEdit;
 
 namespace {
 
-bool isBlank(char c) { return c == ' ' || c == '\t'; }
+bool isSpaceOrTab(char c) { return c == ' ' || c == '\t'; }
 bool isLineEnd(char c) { return c == '\n' || c == '\r'; }
 
 /// The range with the white space before it and the end of its line, when there is nothing else in its lines.
@@ -24,10 +24,10 @@ ByteRange withLines(const SourceDocument& document, ByteRange range)
     const SourceTree& tree = SourceTreeAccess::tree(document);
     const std::string_view text = tree.utf8();
     std::size_t begin = tree.toText(range.begin);
-    while (begin > 0 && isBlank(text[begin - 1]))
+    while (begin > 0 && isSpaceOrTab(text[begin - 1]))
         --begin;
     std::size_t end = tree.toText(range.end);
-    while (end < text.size() && isBlank(text[end]))
+    while (end < text.size() && isSpaceOrTab(text[end]))
         ++end;
     const bool isFirst = begin == 0 || isLineEnd(text[begin - 1]);
     if (!isFirst || end == text.size() || !isLineEnd(text[end]))

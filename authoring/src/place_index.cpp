@@ -1,5 +1,7 @@
 #include "place_index.hpp"
 
+#include "characters.hpp"
+
 #include <algorithm>
 
 namespace zupackage::authoring {
@@ -15,8 +17,6 @@ bool isFollowedByLineFeed(std::size_t at, std::string_view utf8)
 {
     return at + 1 < utf8.size() && utf8[at + 1] == '\n';
 }
-
-bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
 
 LineEnd mostFrequent(std::string_view utf8)
 {

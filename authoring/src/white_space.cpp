@@ -10,8 +10,6 @@ namespace zupackage::authoring {
 
 namespace {
 
-bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
-
 /// The size of the white space character that begins there; 0 when another one does, or bytes that are no character.
 std::size_t whiteSpaceAt(std::size_t at, std::string_view text)
 {

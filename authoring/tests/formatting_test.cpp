@@ -3,6 +3,7 @@
 #include "support/generated_documents.hpp"
 #include "support/generated_packages.hpp"
 #include "support/property.hpp"
+#include "support/read_as.hpp"
 #include "support/well_formed_documents.hpp"
 
 #include <zupackage/authoring/formatting.hpp>
@@ -14,15 +15,11 @@
 
 namespace zu::authoring {
 
+using test::readAs;
+
 namespace {
 
 std::string format(const std::string& bytes) { return formatted(SourceDocument::parse(bytes)); }
-
-std::string readAs(const std::string& bytes)
-{
-    PackageInfo package;
-    return readManifest(bytes, package) ? package.saveToManifestContent() : "unreadable";
-}
 
 /// Everything that a document holds but white space between markup and the order of attributes.
 std::multiset<std::string> partsOf(const SourceDocument& document)

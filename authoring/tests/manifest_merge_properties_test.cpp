@@ -12,7 +12,7 @@ namespace zu::authoring {
 
 namespace {
 
-PackageInfo packageIn(const std::string& manifest)
+PackageInfo packageRead(const std::string& manifest)
 {
     PackageInfo package;
     RC_ASSERT(readManifest(manifest, package));
@@ -37,10 +37,10 @@ TEST(ManifestMergeProperties, TheResultReadsAsTheMergeOfThePackages)
         const std::string ours = oddlyEdited(package);
         const std::string theirs = oddlyEdited(package);
         const ManifestMerge merged = mergeManifests(base, ours, theirs);
-        const PackageMerge expected = mergePackages(packageIn(base), packageIn(ours), packageIn(theirs));
+        const PackageMerge expected = mergePackages(packageRead(base), packageRead(ours), packageRead(theirs));
         RC_ASSERT(merged.conflicts.size() == expected.conflicts.size());
-        RC_ASSERT(differences(packageIn(merged.ours), expected.ours).empty());
-        RC_ASSERT(differences(packageIn(merged.theirs), expected.theirs).empty());
+        RC_ASSERT(differences(packageRead(merged.ours), expected.ours).empty());
+        RC_ASSERT(differences(packageRead(merged.theirs), expected.theirs).empty());
         conflicts += merged.conflicts.empty() ? 0 : 1;
     });
     if (count >= 2'000) { // few inputs may have none by chance

@@ -201,7 +201,7 @@ TEST(PackageDifference, AThousandEntriesMayAllChangePlaces)
 TEST(PackageDifferenceProperties, PackagesDifferExactlyWhenThereAreDifferences)
 {
     int equal = 0;
-    const int count = test::checkProperty(10'000, [&equal] {
+    const int count = test::checkProperty(test::k_inputs, [&equal] {
         const PackageInfo before = test::anySmallPackage();
         PackageInfo after = before;
         test::editAnything(after, 3);

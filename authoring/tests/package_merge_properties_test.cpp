@@ -87,7 +87,7 @@ PackageInfo composed(const std::array<const PackageInfo*, k_sections>& from)
 
 TEST(PackageMergeProperties, WhatOneSideAloneDidIsTheMerge)
 {
-    test::checkProperty(10'000, [] {
+    test::checkProperty(test::k_inputs, [] {
         const PackageInfo base = test::anySmallPackage();
         const PackageInfo side = editedCopy(base);
         const int form = *rc::gen::resize(rc::kNominalSize, rc::gen::inRange(0, 3));
@@ -100,7 +100,7 @@ TEST(PackageMergeProperties, WhatOneSideAloneDidIsTheMerge)
 TEST(PackageMergeProperties, SidesThatChangePlacesMakeTheSameUpToOrder)
 {
     int conflicts = 0;
-    const int count = test::checkProperty(10'000, [&conflicts] {
+    const int count = test::checkProperty(test::k_inputs, [&conflicts] {
         const PackageInfo base = test::anySmallPackage();
         const PackageInfo ours = editedCopy(base);
         const PackageInfo theirs = editedCopy(base);
@@ -120,7 +120,7 @@ TEST(PackageMergeProperties, SidesThatChangePlacesMakeTheSameUpToOrder)
 
 TEST(PackageMergeProperties, NoTagIsThereMoreOftenThanOnASideAndWhatOneRemovedAndTheOtherLeftIsGone)
 {
-    test::checkProperty(10'000, [] {
+    test::checkProperty(test::k_inputs, [] {
         const Tags base = anyTags();
         const Tags ours = anyTags();
         const Tags theirs = anyTags();
@@ -142,7 +142,7 @@ TEST(PackageMergeProperties, NoTagIsThereMoreOftenThanOnASideAndWhatOneRemovedAn
 
 TEST(PackageMergeProperties, EditsOfDifferentSectionsAreBothThere)
 {
-    test::checkProperty(10'000, [] {
+    test::checkProperty(test::k_inputs, [] {
         const PackageInfo base = test::anySmallPackage();
         const PackageInfo ourSource = test::anySmallPackage();
         const PackageInfo theirSource = test::anySmallPackage();

@@ -10,8 +10,6 @@ namespace zu::authoring {
 
 namespace {
 
-SourceDocument parsed(std::string bytes) { return SourceDocument::parse(std::move(bytes)); }
-
 // Characters of one to four bytes in UTF-8.
 const std::string k_text = "a\xc3\xa9\xe2\x82\xac\xf0\x9f\xa4\x96z";
 
@@ -43,7 +41,7 @@ TEST(SourceDocumentEncodings, EachUnicodeFormIsFoundAndPlacesAreThoseOfItsBytes)
     for (const Form& form : forms) {
         SCOPED_TRACE(form.name + std::to_string(form.mark.size()));
         const std::string bytes = form.mark + test::encoded("<p>" + k_text + "<b c='\xc3\xa9'/></p>", form.name);
-        const SourceDocument document = parsed(bytes);
+        const SourceDocument document = SourceDocument::parse(bytes);
         const SourceNode b = document.root().child("b");
         EXPECT_EQ(document.encoding(), form.name);
         EXPECT_EQ(document.hasByteOrderMark(), !form.mark.empty());
@@ -67,20 +65,20 @@ TEST(SourceDocumentEncodings, ADeclaredEncodingIsRead)
         SCOPED_TRACE(encoding);
         const std::string bytes =
             test::encoded(declared(encoding, "<p><b>" + std::string(text) + "</b><c/></p>"), encoding);
-        const SourceDocument document = parsed(bytes);
+        const SourceDocument document = SourceDocument::parse(bytes);
         EXPECT_EQ(document.root().child("b").textContent(), text);
         const ByteRange last = document.root().child("c").range();
         EXPECT_EQ(bytes.substr(last.begin, last.size()), "<c/>");
         EXPECT_TRUE(document.isWellFormed());
         EXPECT_EQ(document.text(), bytes);
     }
-    EXPECT_EQ(parsed(declared("latin1", "<p/>")).encoding(), "ISO-8859-1");
+    EXPECT_EQ(SourceDocument::parse(declared("latin1", "<p/>")).encoding(), "ISO-8859-1");
 }
 
 TEST(SourceDocumentEncodings, AnUnknownOrWrongDeclarationIsTold)
 {
     const auto message = [](const std::string& bytes) {
-        const SourceDocument document = parsed(bytes);
+        const SourceDocument document = SourceDocument::parse(bytes);
         EXPECT_EQ(document.errors().size(), 1u);
         EXPECT_EQ(document.errors().front().kind, SyntaxErrorKind::Encoding);
         EXPECT_EQ(document.errors().front().place, (Place{1, 31}));
@@ -95,13 +93,14 @@ TEST(SourceDocumentEncodings, AnUnknownOrWrongDeclarationIsTold)
               "the document is in UTF-16LE, not in 'UTF-8'");
     EXPECT_EQ(message(test::encoded(declared("UTF-16", "<p/>"), "UTF-16BE")),
               "the document is in UTF-16BE, not in 'UTF-16'");
-    EXPECT_TRUE(parsed("\xfe\xff" + test::encoded(declared("UTF-16", "<p/>"), "UTF-16BE")).isWellFormed());
-    EXPECT_TRUE(parsed(test::encoded(declared("UTF-16BE", "<p/>"), "UTF-16BE")).isWellFormed());
+    EXPECT_TRUE(
+        SourceDocument::parse("\xfe\xff" + test::encoded(declared("UTF-16", "<p/>"), "UTF-16BE")).isWellFormed());
+    EXPECT_TRUE(SourceDocument::parse(test::encoded(declared("UTF-16BE", "<p/>"), "UTF-16BE")).isWellFormed());
 }
 
 TEST(SourceDocumentEncodings, BytesThatMeanNothingAreToldAndTheRestIsRead)
 {
-    const SourceDocument document = parsed("<p><a>\xe9t\xe9\xff</a><b/></p>");
+    const SourceDocument document = SourceDocument::parse("<p><a>\xe9t\xe9\xff</a><b/></p>");
     ASSERT_EQ(document.errors().size(), 2u);
     EXPECT_EQ(document.errors()[0].message, "bytes that are not UTF-8");
     EXPECT_EQ(document.errors()[0].range, (ByteRange{6, 7}));
@@ -115,7 +114,7 @@ TEST(SourceDocumentEncodings, BytesThatMeanNothingAreToldAndTheRestIsRead)
 TEST(SourceDocumentEncodings, ABrokenCharacterLeavesTheNextOneItsBytes)
 {
     const std::string bytes = declared("Shift_JIS", "<p>\x95</p>");
-    const SourceDocument document = parsed(bytes);
+    const SourceDocument document = SourceDocument::parse(bytes);
     EXPECT_FALSE(document.isWellFormed());
     EXPECT_EQ(document.root().textContent(), "\xef\xbf\xbd");
     const ByteRange end = document.root().endTagRange();
@@ -127,7 +126,7 @@ TEST(SourceDocumentEncodings, EveryFormOfBrokenUtf8IsTold)
     // A lone continuation, an overlong form, a surrogate, beyond Unicode, an end in the middle.
     for (const char* broken :
          {"\x80", "\xc0\xaf", "\xe0\x80\xaf", "\xed\xa0\x80", "\xf4\x90\x80\x80", "\xf5", "\xe2\x82"})
-        EXPECT_THAT(parsed("<p>" + std::string(broken) + "</p>").errors(), testing::SizeIs(1)) << broken;
+        EXPECT_THAT(SourceDocument::parse("<p>" + std::string(broken) + "</p>").errors(), testing::SizeIs(1)) << broken;
 }
 
 TEST(SourceDocumentEncodings, HalvesOfCharactersInUtf16AreTold)
@@ -136,8 +135,8 @@ TEST(SourceDocumentEncodings, HalvesOfCharactersInUtf16AreTold)
     const std::string start = "\xff\xfe" + test::encoded("<p>", "UTF-16LE");
     const std::string end = test::encoded("</p>", "UTF-16LE");
     for (const std::string& half : {"\x3e\xd8"s, "\x16\xdd"s})
-        EXPECT_EQ(parsed(start + half + end).errors().front().range, (ByteRange{8, 10}));
-    EXPECT_EQ(parsed(start + end + "\n").errors().front().range, (ByteRange{16, 17}));
+        EXPECT_EQ(SourceDocument::parse(start + half + end).errors().front().range, (ByteRange{8, 10}));
+    EXPECT_EQ(SourceDocument::parse(start + end + "\n").errors().front().range, (ByteRange{16, 17}));
 }
 
 } // namespace zu::authoring

@@ -7,8 +7,6 @@ namespace zu::authoring {
 
 namespace {
 
-SourceDocument parsed(std::string bytes) { return SourceDocument::parse(std::move(bytes)); }
-
 std::string kindName(SyntaxErrorKind kind)
 {
     switch (kind) {
@@ -27,7 +25,7 @@ std::string kindName(SyntaxErrorKind kind)
 /// The errors of a document, a line each: where, what stands there, and why.
 std::string errorsOf(const std::string& bytes)
 {
-    const SourceDocument document = parsed(bytes);
+    const SourceDocument document = SourceDocument::parse(bytes);
     std::string lines;
     for (const SyntaxError& error : document.errors())
         lines += std::to_string(error.place.line) + ':' + std::to_string(error.place.column) + " [" +
@@ -157,21 +155,22 @@ TEST(SourceDocumentErrors, OnlyAHundredAreTold)
     std::string text;
     for (int i = 0; i < 1000; ++i)
         text += "& ";
-    const SourceDocument document = parsed("<p>" + text + "<a/></p>");
+    const SourceDocument document = SourceDocument::parse("<p>" + text + "<a/></p>");
     EXPECT_EQ(document.errors().size(), 100u);
     EXPECT_TRUE(document.root().child("a"));
 }
 
 TEST(SourceDocumentErrors, TheOneThatEndsTheDocumentIsAlwaysTold)
 {
-    const SourceDocument document = parsed("<p>" + std::string(1000, '&') + "<a");
+    const SourceDocument document = SourceDocument::parse("<p>" + std::string(1000, '&') + "<a");
     ASSERT_EQ(document.errors().size(), 101u);
     EXPECT_EQ(document.errors().back().message, "a tag without an end");
 }
 
 TEST(SourceDocumentErrors, WhatComesBeforeAnErrorIsThere)
 {
-    const SourceDocument document = parsed("<p><names><name lang='en'>a</name><name lang=fr>b</name></names></p>");
+    const SourceDocument document =
+        SourceDocument::parse("<p><names><name lang='en'>a</name><name lang=fr>b</name></names></p>");
     EXPECT_FALSE(document.isComplete());
     EXPECT_EQ(document.root().child("names").child("name").textContent(), "a");
     EXPECT_EQ(document.root().range(), (ByteRange{0, 34}));

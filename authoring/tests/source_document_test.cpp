@@ -7,8 +7,6 @@ namespace zu::authoring {
 
 namespace {
 
-SourceDocument parsed(std::string bytes) { return SourceDocument::parse(std::move(bytes)); }
-
 /// What the children of a node are, as they stand there.
 std::vector<std::string> sources(SourceNode parent, const SourceDocument& document)
 {
@@ -23,12 +21,12 @@ std::vector<std::string> sources(SourceNode parent, const SourceDocument& docume
 TEST(SourceDocument, TextIsTheInput)
 {
     for (const char* bytes : {"<p/>", "", "<p>\r\n</p>", "<p a='1' a='2'", "\xef\xbb\xbf<p/>", "\xff\xfe<", "\xff"})
-        EXPECT_EQ(parsed(bytes).text(), bytes);
+        EXPECT_EQ(SourceDocument::parse(bytes).text(), bytes);
 }
 
 TEST(SourceDocument, AnElementHasTheRangesOfItsParts)
 {
-    const SourceDocument document = parsed("<p><name lang = 'en'  >a</name ></p>");
+    const SourceDocument document = SourceDocument::parse("<p><name lang = 'en'  >a</name ></p>");
     const SourceNode name = document.root().child("name");
     EXPECT_EQ(document.source(name.range()), "<name lang = 'en'  >a</name >");
     EXPECT_EQ(document.source(name.startTagRange()), "<name lang = 'en'  >");
@@ -39,7 +37,7 @@ TEST(SourceDocument, AnElementHasTheRangesOfItsParts)
 
 TEST(SourceDocument, AnAttributeHasTheRangesOfItsParts)
 {
-    const SourceDocument document = parsed("<p lang = 'e\"n' b=\"\"/>");
+    const SourceDocument document = SourceDocument::parse("<p lang = 'e\"n' b=\"\"/>");
     const SourceAttribute lang = document.root().attribute("lang");
     EXPECT_EQ(document.source(lang.range()), "lang = 'e\"n'");
     EXPECT_EQ(document.source(lang.nameRange()), "lang");
@@ -51,7 +49,7 @@ TEST(SourceDocument, AnAttributeHasTheRangesOfItsParts)
 
 TEST(SourceDocument, AnEmptyTagHasNeitherContentNorEndTag)
 {
-    const SourceDocument document = parsed("<p />");
+    const SourceDocument document = SourceDocument::parse("<p />");
     const SourceNode root = document.root();
     EXPECT_TRUE(root.isEmptyTag());
     EXPECT_EQ(root.contentRange(), (ByteRange{5, 5}));
@@ -60,8 +58,9 @@ TEST(SourceDocument, AnEmptyTagHasNeitherContentNorEndTag)
 
 TEST(SourceDocument, EveryNodeOfADocumentIsThere)
 {
-    const SourceDocument document = parsed("<?xml version='1.0'?>\n<!--c--><!DOCTYPE p [<!ENTITY e 'x'>]><?i d?>"
-                                           "<p>a<b/>&e;<![CDATA[<]]></p>\n");
+    const SourceDocument document =
+        SourceDocument::parse("<?xml version='1.0'?>\n<!--c--><!DOCTYPE p [<!ENTITY e 'x'>]><?i d?>"
+                              "<p>a<b/>&e;<![CDATA[<]]></p>\n");
     EXPECT_THAT(sources(document.document(), document),
                 testing::ElementsAre("<?xml version='1.0'?>", "\n", "<!--c-->", "<!DOCTYPE p [<!ENTITY e 'x'>]>",
                                      "<?i d?>", "<p>a<b/>&e;<![CDATA[<]]></p>", "\n"));
@@ -72,7 +71,7 @@ TEST(SourceDocument, EveryNodeOfADocumentIsThere)
 
 TEST(SourceDocument, NodesInDocumentOrderComeByTheirNumbers)
 {
-    const SourceDocument document = parsed("<p><a><b/></a><c/></p>");
+    const SourceDocument document = SourceDocument::parse("<p><a><b/></a><c/></p>");
     ASSERT_EQ(document.nodeCount(), 5u);
     EXPECT_EQ(document.node(0), document.document());
     EXPECT_EQ(document.node(3).name(), "b");
@@ -83,7 +82,9 @@ TEST(SourceDocument, NodesInDocumentOrderComeByTheirNumbers)
 
 TEST(SourceDocument, TheValueOfATextIsThatOfItsReferencesAndLines)
 {
-    const auto value = [](const std::string& text) { return parsed("<p>" + text + "</p>").root().textContent(); };
+    const auto value = [](const std::string& text) {
+        return SourceDocument::parse("<p>" + text + "</p>").root().textContent();
+    };
     EXPECT_EQ(value("a\rb\r\nc\n&#13;&#xe9;&amp;&lt;&gt;&quot;&apos;"), "a\nb\nc\n\r\xc3\xa9&<>\"'");
     EXPECT_EQ(value("<![CDATA[a\r\n&amp;]]>"), "a\n&amp;");
     EXPECT_EQ(value("a & b &x; &#0;"), "a & b  \xef\xbf\xbd");
@@ -93,7 +94,7 @@ TEST(SourceDocument, TheValueOfATextIsThatOfItsReferencesAndLines)
 TEST(SourceDocument, TheValueOfAnAttributeHasBlanksForWhiteSpace)
 {
     const auto value = [](const std::string& text) {
-        return std::string(parsed("<p a='" + text + "'/>").root().attribute("a").value());
+        return std::string(SourceDocument::parse("<p a='" + text + "'/>").root().attribute("a").value());
     };
     EXPECT_EQ(value("a\tb\r\nc\nd\re"), "a b c d e");
     EXPECT_EQ(value("&#9;&#10;&lt;"), "\t\n<");
@@ -102,8 +103,8 @@ TEST(SourceDocument, TheValueOfAnAttributeHasBlanksForWhiteSpace)
 
 TEST(SourceDocument, EntitiesAreResolvedAsFarAsTheyAreText)
 {
-    const SourceDocument document =
-        parsed("<!DOCTYPE p [<!ENTITY e '&f;&#38;lt;\n'><!ENTITY f 'x'><!ENTITY g '<b/>'>]><p a='&e;'>&e;&g;</p>");
+    const SourceDocument document = SourceDocument::parse(
+        "<!DOCTYPE p [<!ENTITY e '&f;&#38;lt;\n'><!ENTITY f 'x'><!ENTITY g '<b/>'>]><p a='&e;'>&e;&g;</p>");
     EXPECT_TRUE(document.isWellFormed());
     EXPECT_EQ(document.root().attribute("a").value(), "x< ");
     EXPECT_EQ(document.root().firstChild().value(), "x<\n");
@@ -113,7 +114,7 @@ TEST(SourceDocument, EntitiesAreResolvedAsFarAsTheyAreText)
 
 TEST(SourceDocument, NamesHaveTheirPrefixesApart)
 {
-    const SourceDocument document = parsed("<y:p xmlns:y='u' y:uuid='1' uuid='2' xmlns='v'/>");
+    const SourceDocument document = SourceDocument::parse("<y:p xmlns:y='u' y:uuid='1' uuid='2' xmlns='v'/>");
     const SourceNode root = document.root();
     EXPECT_EQ(root.name(), "y:p");
     EXPECT_EQ(root.prefix(), "y");
@@ -127,7 +128,7 @@ TEST(SourceDocument, NamesHaveTheirPrefixesApart)
 
 TEST(SourceDocument, TheXmlDeclarationHasAttributes)
 {
-    const SourceDocument document = parsed("<?xml version='1.0' encoding=\"UTF-8\"?><p/>");
+    const SourceDocument document = SourceDocument::parse("<?xml version='1.0' encoding=\"UTF-8\"?><p/>");
     const SourceNode declaration = document.document().firstChild();
     EXPECT_EQ(declaration.kind(), NodeKind::XmlDeclaration);
     EXPECT_EQ(declaration.attribute("encoding").value(), "UTF-8");
@@ -136,7 +137,8 @@ TEST(SourceDocument, TheXmlDeclarationHasAttributes)
 
 TEST(SourceDocument, PlacesAreInCharactersAndLinesEndInThreeWays)
 {
-    const SourceDocument document = parsed("\xef\xbb\xbf<p>\r\n\xc3\xa9\xf0\x9f\xa4\x96<b/>\r\n\n\r<c/></p>");
+    const SourceDocument document =
+        SourceDocument::parse("\xef\xbb\xbf<p>\r\n\xc3\xa9\xf0\x9f\xa4\x96<b/>\r\n\n\r<c/></p>");
     EXPECT_EQ(document.place(0), (Place{1, 1}));
     EXPECT_EQ(document.place(3), (Place{1, 1}));
     EXPECT_EQ(document.place(6), (Place{1, 4}));
@@ -157,20 +159,20 @@ TEST(SourceDocument, PlacesFarFromTheBeginningAreCounted)
     for (int i = 0; i < 1000; ++i)
         bytes += "\xe2\x82\xac\r\n\xc3\xa9\r";
     bytes += "\xc3\xa9<a/>";
-    EXPECT_EQ(parsed(bytes).place(bytes.size() - 4), (Place{2001, 2}));
+    EXPECT_EQ(SourceDocument::parse(bytes).place(bytes.size() - 4), (Place{2001, 2}));
 }
 
 TEST(SourceDocument, TheMostFrequentLineEndIsRemembered)
 {
-    EXPECT_EQ(parsed("<p/>").lineEnd(), LineEnd::LineFeed);
-    EXPECT_EQ(parsed("<p>\n\n\r\n</p>").lineEnd(), LineEnd::LineFeed);
-    EXPECT_EQ(parsed("<p>\n\r\r</p>").lineEnd(), LineEnd::CarriageReturn);
-    EXPECT_EQ(parsed("<p>\r\n\r\n\n</p>").lineEnd(), LineEnd::CarriageReturnLineFeed);
+    EXPECT_EQ(SourceDocument::parse("<p/>").lineEnd(), LineEnd::LineFeed);
+    EXPECT_EQ(SourceDocument::parse("<p>\n\n\r\n</p>").lineEnd(), LineEnd::LineFeed);
+    EXPECT_EQ(SourceDocument::parse("<p>\n\r\r</p>").lineEnd(), LineEnd::CarriageReturn);
+    EXPECT_EQ(SourceDocument::parse("<p>\r\n\r\n\n</p>").lineEnd(), LineEnd::CarriageReturnLineFeed);
 }
 
 TEST(SourceDocument, OfANullNodeEverythingIsEmpty)
 {
-    const SourceDocument document = parsed("<p/>");
+    const SourceDocument document = SourceDocument::parse("<p/>");
     const SourceNode null = document.root().child("a").child("b");
     EXPECT_FALSE(null);
     EXPECT_EQ(null.kind(), NodeKind::None);
@@ -190,7 +192,7 @@ TEST(SourceDocument, OfANullNodeEverythingIsEmpty)
 
 TEST(SourceDocument, HandlesAreValidAsLongAsACopyOfTheDocument)
 {
-    SourceDocument document = parsed("<p a='1'/>");
+    SourceDocument document = SourceDocument::parse("<p a='1'/>");
     const SourceNode root = document.root();
     const SourceDocument copy = document;
     document = SourceDocument();

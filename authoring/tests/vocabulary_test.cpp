@@ -41,7 +41,7 @@ std::string manifestWith(const ElementEntry& entry, std::string_view varied, std
 }
 
 /// All that the two readers make of a manifest.
-std::string readAs(const std::string& manifest)
+std::string readBothWays(const std::string& manifest)
 {
     const test::TemporaryFolder folder;
     const std::string path = folder.file("manifest.xml", manifest);
@@ -80,15 +80,17 @@ TEST(Vocabulary, NamesNothingThatNoReaderTakes)
 {
     for (const ElementEntry& entry : elements()) {
         for (const AttributeEntry& attribute : entry.attributes)
-            EXPECT_NE(readAs(manifestWith(entry, attribute.name, "1")),
-                      readAs(manifestWith(entry, attribute.name, "0")))
+            EXPECT_NE(readBothWays(manifestWith(entry, attribute.name, "1")),
+                      readBothWays(manifestWith(entry, attribute.name, "0")))
                 << entry.path << "/@" << attribute.name;
         if (entry.text != ValueKind::None) {
-            EXPECT_NE(readAs(manifestWith(entry, ".", "1")), readAs(manifestWith(entry, ".", "0"))) << entry.path;
+            EXPECT_NE(readBothWays(manifestWith(entry, ".", "1")), readBothWays(manifestWith(entry, ".", "0")))
+                << entry.path;
         }
         const bool isPresence = entry.text == ValueKind::None && entry.attributes.empty() && entry.children.empty();
         if (isPresence) {
-            EXPECT_NE(readAs(manifestWith(entry, "", "1")), readAs(manifestWith(entry, "", ""))) << entry.path;
+            EXPECT_NE(readBothWays(manifestWith(entry, "", "1")), readBothWays(manifestWith(entry, "", "")))
+                << entry.path;
         }
     }
 }
@@ -102,8 +104,8 @@ TEST(Vocabulary, KnowsTheListsOfWhichEveryChildCounts)
                                std::string(entry.name) + ">";
         for (const ElementEntry* parent = entry.parent; parent; parent = parent->parent)
             manifest = "<" + std::string(parent->name) + ">" + manifest + "</" + std::string(parent->name) + ">";
-        EXPECT_EQ(readAs(manifest).find(">1<") != std::string::npos ||
-                      readAs(manifest).find("[1]") != std::string::npos,
+        EXPECT_EQ(readBothWays(manifest).find(">1<") != std::string::npos ||
+                      readBothWays(manifest).find("[1]") != std::string::npos,
                   entry.countsEveryChild)
             << entry.path;
     }

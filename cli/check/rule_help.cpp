@@ -18,7 +18,7 @@ std::string padded(std::string_view text, std::size_t width)
 }
 
 /// The text in lines of at most 80 columns, broken at spaces.
-std::string wrapped(std::string_view text)
+std::string inLines(std::string_view text)
 {
     constexpr std::size_t k_width = 80;
     std::string result;
@@ -61,7 +61,7 @@ std::string ruleList()
 std::string explanationOf(const Rule& rule)
 {
     std::string text = std::string(rule.id) + " (" + std::string(nameOf(rule.severity)) + ")\n" +
-                       std::string(rule.summary) + ".\n\n" + wrapped(rule.explanation);
+                       std::string(rule.summary) + ".\n\n" + inLines(rule.explanation);
     if (!rule.files.empty())
         text += "\nIn a package with " + std::string(rule.files) + ":\n";
     if (!rule.badExample.empty())

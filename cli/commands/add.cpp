@@ -22,7 +22,7 @@ ExitCode add(const AddArguments& arguments)
     return path && parts ? editManifest(arguments, {authoring::AddEntry{*path, *parts}}) : k_usage;
 }
 
-std::function<ExitCode()> prepare(Arguments& arguments)
+std::function<ExitCode()> prepareAdd(Arguments& arguments)
 {
     auto parsed = std::make_shared<AddArguments>();
     acceptEditArguments(*parsed, arguments);
@@ -32,13 +32,13 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return add(*parsed); };
 }
 
-constexpr Example k_examples[] = {
+constexpr Example k_addExamples[] = {
     {"zupackage add manifest.xml services/service @name=clock @execStart=bin/clock", "Append a service"},
     {"zupackage add manifest.xml supportedLanguages/language .=fr", "Append a language"},
 };
 
 } // namespace
 
-const Command k_add = {"add", "Append an entry to a list of a manifest", prepare, k_examples};
+const Command k_add = {"add", "Append an entry to a list of a manifest", prepareAdd, k_addExamples};
 
 } // namespace zu::cli

@@ -141,7 +141,7 @@ ExitCode check(const CheckArguments& arguments)
     }
 }
 
-std::function<ExitCode()> prepare(Arguments& arguments)
+std::function<ExitCode()> prepareCheck(Arguments& arguments)
 {
     auto parsed = std::make_shared<CheckArguments>();
     arguments.accept(
@@ -164,7 +164,7 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return check(*parsed); };
 }
 
-constexpr Example k_examples[] = {
+constexpr Example k_checkExamples[] = {
     {"zupackage check examples/packages", "Check all packages below a folder"},
     {"zupackage check --explain counted-node", "Explain a rule"},
     {"zupackage check --fix-dry-run hello", "Show what would be fixed"},
@@ -173,6 +173,6 @@ constexpr Example k_examples[] = {
 
 } // namespace
 
-const Command k_check = {"check", "Find what readers of manifests silently accept", prepare, k_examples};
+const Command k_check = {"check", "Find what readers of manifests silently accept", prepareCheck, k_checkExamples};
 
 } // namespace zu::cli

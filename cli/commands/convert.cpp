@@ -72,7 +72,7 @@ ExitCode convert(const ConvertArguments& arguments)
     }
 }
 
-std::function<ExitCode()> prepare(Arguments& arguments)
+std::function<ExitCode()> prepareConvert(Arguments& arguments)
 {
     auto parsed = std::make_shared<ConvertArguments>();
     arguments.require(
@@ -84,13 +84,13 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return convert(*parsed); };
 }
 
-constexpr Example k_examples[] = {
+constexpr Example k_convertExamples[] = {
     {"zupackage convert --to json my-package | jq .names", "Print the names of a package as JSON"},
     {"zupackage convert --to xml package.json -o my-package/manifest.xml", "Make a manifest of JSON"},
 };
 
 } // namespace
 
-const Command k_convert = {"convert", "Turn a manifest into JSON, and back", prepare, k_examples};
+const Command k_convert = {"convert", "Turn a manifest into JSON, and back", prepareConvert, k_convertExamples};
 
 } // namespace zu::cli

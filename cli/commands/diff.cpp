@@ -22,7 +22,7 @@ struct DiffArguments
 };
 
 /// A manifest to compare.
-struct Side
+struct ComparedManifest
 {
     std::string name; ///< as messages show it
     std::string path;
@@ -32,7 +32,8 @@ struct Side
 constexpr char k_noFile[] = "/dev/null";
 
 /// The package of a side, and its manifest's bytes.
-PackageInfo read(const Side& side, bool mayBeAbsent, std::string& bytes, std::vector<UnreadableManifest>& unreadable)
+PackageInfo readCompared(const ComparedManifest& side, bool mayBeAbsent, std::string& bytes,
+                         std::vector<UnreadableManifest>& unreadable)
 {
     PackageInfo package;
     if (mayBeAbsent && side.path == k_noFile)
@@ -47,15 +48,15 @@ PackageInfo read(const Side& side, bool mayBeAbsent, std::string& bytes, std::ve
     return package;
 }
 
-ManifestDifference compare(const Side& before, const Side& after, bool mayBeAbsent)
+ManifestDifference compare(const ComparedManifest& before, const ComparedManifest& after, bool mayBeAbsent)
 {
     ManifestDifference difference;
     difference.before = before.name;
     difference.after = after.name;
     std::string bytesBefore;
     std::string bytesAfter;
-    const PackageInfo packageBefore = read(before, mayBeAbsent, bytesBefore, difference.unreadable);
-    const PackageInfo packageAfter = read(after, mayBeAbsent, bytesAfter, difference.unreadable);
+    const PackageInfo packageBefore = readCompared(before, mayBeAbsent, bytesBefore, difference.unreadable);
+    const PackageInfo packageAfter = readCompared(after, mayBeAbsent, bytesAfter, difference.unreadable);
     if (!difference.unreadable.empty())
         return difference;
     difference.isIdentical = bytesBefore == bytesAfter;
@@ -130,7 +131,7 @@ ExitCode diffForGit(const DiffArguments& arguments)
     return writeOutput(report) ? k_success : k_outputFailed;
 }
 
-std::function<ExitCode()> prepare(Arguments& arguments)
+std::function<ExitCode()> prepareDiff(Arguments& arguments)
 {
     auto parsed = std::make_shared<DiffArguments>();
     arguments.require(parsed->sources, "SOURCE", "FILE|FOLDER|-",
@@ -144,7 +145,7 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return parsed->isForGit ? diffForGit(*parsed) : diffOfFiles(*parsed); };
 }
 
-constexpr Example k_examples[] = {
+constexpr Example k_diffExamples[] = {
     {"zupackage diff story-teller-1.0 story-teller", "Compare the packages in two folders"},
     {"git show HEAD:manifest.xml | zupackage diff - manifest.xml", "Compare with what was committed"},
     {"git config diff.zupackage.command 'zupackage diff --git'",
@@ -153,6 +154,6 @@ constexpr Example k_examples[] = {
 
 } // namespace
 
-const Command k_diff = {"diff", "Tell what makes one package another", prepare, k_examples};
+const Command k_diff = {"diff", "Tell what makes one package another", prepareDiff, k_diffExamples};
 
 } // namespace zu::cli

@@ -75,7 +75,7 @@ ExitCode format(const FormatArguments& arguments)
     return result;
 }
 
-std::function<ExitCode()> prepare(Arguments& arguments)
+std::function<ExitCode()> prepareFormat(Arguments& arguments)
 {
     auto parsed = std::make_shared<FormatArguments>();
     arguments.require(parsed->sources, "SOURCE", "FILE|FOLDER|-",
@@ -85,13 +85,14 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return format(*parsed); };
 }
 
-constexpr Example k_examples[] = {
+constexpr Example k_formatExamples[] = {
     {"zupackage format my-package", "Bring the manifest of a package into form"},
     {"zupackage format --check packages", "Fail where a manifest is not in form, and name it"},
 };
 
 } // namespace
 
-const Command k_format = {"format", "Bring manifests into one form; they read as before", prepare, k_examples};
+const Command k_format = {"format", "Bring manifests into one form; they read as before", prepareFormat,
+                          k_formatExamples};
 
 } // namespace zu::cli

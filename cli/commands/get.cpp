@@ -55,7 +55,7 @@ ExitCode get(const GetArguments& arguments)
     return writeOutput(printed(texts, arguments)) ? result : k_outputFailed;
 }
 
-std::function<ExitCode()> prepare(Arguments& arguments)
+std::function<ExitCode()> prepareGet(Arguments& arguments)
 {
     auto parsed = std::make_shared<GetArguments>();
     arguments.require(parsed->source, "FILE", "FILE|FOLDER|-",
@@ -66,7 +66,7 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return get(*parsed); };
 }
 
-constexpr Example k_examples[] = {
+constexpr Example k_getExamples[] = {
     {"zupackage get manifest.xml @version", "Print the version"},
     {"zupackage get my-package \"names/name[@lang='fr']\" \"contents/*/@path\"",
      "Print the French name, and the paths of all contents"},
@@ -74,6 +74,6 @@ constexpr Example k_examples[] = {
 
 } // namespace
 
-const Command k_get = {"get", "Print texts of a manifest", prepare, k_examples};
+const Command k_get = {"get", "Print texts of a manifest", prepareGet, k_getExamples};
 
 } // namespace zu::cli

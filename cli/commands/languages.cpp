@@ -113,7 +113,7 @@ ExitCode languages(const LanguagesArguments& arguments)
     return report(arguments, gate);
 }
 
-std::function<ExitCode()> prepare(Arguments& arguments)
+std::function<ExitCode()> prepareLanguages(Arguments& arguments)
 {
     auto parsed = std::make_shared<LanguagesArguments>();
     arguments.accept(
@@ -129,7 +129,7 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return languages(*parsed); };
 }
 
-constexpr Example k_examples[] = {
+constexpr Example k_languagesExamples[] = {
     {"zupackage languages examples/packages", "Show the languages of all packages below a folder"},
     {"zupackage languages --require en,fr hello", "Fail when a text is missing in one of two languages"},
     {"zupackage languages --format csv . > languages.csv", "Write a table for a spreadsheet"},
@@ -137,6 +137,7 @@ constexpr Example k_examples[] = {
 
 } // namespace
 
-const Command k_languages = {"languages", "Show which texts are there in which languages", prepare, k_examples};
+const Command k_languages = {"languages", "Show which texts are there in which languages", prepareLanguages,
+                             k_languagesExamples};
 
 } // namespace zu::cli

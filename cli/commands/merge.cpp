@@ -158,7 +158,7 @@ ExitCode merge(const MergeArguments& arguments)
     }
 }
 
-std::function<ExitCode()> prepare(Arguments& arguments)
+std::function<ExitCode()> prepareMerge(Arguments& arguments)
 {
     auto parsed = std::make_shared<MergeArguments>();
     arguments.require(parsed->base, "BASE", "FILE|FOLDER|-",
@@ -176,7 +176,7 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return merge(*parsed); };
 }
 
-constexpr Example k_examples[] = {
+constexpr Example k_mergeExamples[] = {
     {"zupackage merge base.xml ours.xml theirs.xml -o merged.xml", "Put together what became of base.xml"},
     {"git config merge.zupackage.driver 'zupackage merge %O %A %B -o %A --marker-size %L --name=%P'",
      "Have git merge the files that have the attribute merge=zupackage so"},
@@ -186,6 +186,6 @@ constexpr Example k_examples[] = {
 
 } // namespace
 
-const Command k_merge = {"merge", "Put together what two sides made of one package", prepare, k_examples};
+const Command k_merge = {"merge", "Put together what two sides made of one package", prepareMerge, k_mergeExamples};
 
 } // namespace zu::cli

@@ -189,7 +189,7 @@ ExitCode makePackages(const NewArguments& arguments)
     return result;
 }
 
-std::function<ExitCode()> prepare(Arguments& arguments)
+std::function<ExitCode()> prepareNew(Arguments& arguments)
 {
     auto parsed = std::make_shared<NewArguments>();
     arguments.require(parsed->folders, "FOLDER", "FOLDER", "Where the package is to be; files that are there stay");
@@ -203,13 +203,13 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return makePackages(*parsed); };
 }
 
-constexpr Example k_examples[] = {
+constexpr Example k_newExamples[] = {
     {"zupackage new hello", "Make a package with one behavior, in English, in the folder hello"},
     {"zupackage new chat --kind dialog --language en --language fr", "Make one for a dialog in two languages"},
 };
 
 } // namespace
 
-const Command k_new = {"new", "Make the skeleton of a package", prepare, k_examples};
+const Command k_new = {"new", "Make the skeleton of a package", prepareNew, k_newExamples};
 
 } // namespace zu::cli

@@ -26,7 +26,7 @@ ExitCode remove(const RemoveArguments& arguments)
     return editManifest(arguments, edits);
 }
 
-std::function<ExitCode()> prepare(Arguments& arguments)
+std::function<ExitCode()> prepareRemove(Arguments& arguments)
 {
     auto parsed = std::make_shared<RemoveArguments>();
     acceptEditArguments(*parsed, arguments);
@@ -34,12 +34,12 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return remove(*parsed); };
 }
 
-constexpr Example k_examples[] = {
+constexpr Example k_removeExamples[] = {
     {"zupackage remove manifest.xml \"names/name[@lang='fr']\" @channel", "Take the French name and the channel away"},
 };
 
 } // namespace
 
-const Command k_remove = {"remove", "Take elements or attributes out of a manifest", prepare, k_examples};
+const Command k_remove = {"remove", "Take elements or attributes out of a manifest", prepareRemove, k_removeExamples};
 
 } // namespace zu::cli

@@ -11,7 +11,7 @@ namespace zu::cli {
 
 namespace {
 
-std::function<ExitCode()> prepare(Arguments& arguments)
+std::function<ExitCode()> prepareSchema(Arguments& arguments)
 {
     auto format = std::make_shared<std::string>("xsd");
     arguments.choice(*format, "--format", {"xsd", "json"},
@@ -22,13 +22,14 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     };
 }
 
-constexpr Example k_examples[] = {
+constexpr Example k_schemaExamples[] = {
     {"zupackage schema > manifest.xsd", "Write the XML Schema"},
     {"zupackage schema --format json > manifest.schema.json", "Write the JSON Schema of manifests as JSON"},
 };
 
 } // namespace
 
-const Command k_schema = {"schema", "Write the schema of manifests, for editors and validators", prepare, k_examples};
+const Command k_schema = {"schema", "Write the schema of manifests, for editors and validators", prepareSchema,
+                          k_schemaExamples};
 
 } // namespace zu::cli

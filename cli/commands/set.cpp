@@ -20,7 +20,7 @@ ExitCode set(const SetArguments& arguments)
     return assignments ? editManifest(arguments, {assignments->begin(), assignments->end()}) : k_usage;
 }
 
-std::function<ExitCode()> prepare(Arguments& arguments)
+std::function<ExitCode()> prepareSet(Arguments& arguments)
 {
     auto parsed = std::make_shared<SetArguments>();
     acceptEditArguments(*parsed, arguments);
@@ -30,7 +30,7 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return set(*parsed); };
 }
 
-constexpr Example k_examples[] = {
+constexpr Example k_setExamples[] = {
     {"zupackage set manifest.xml @version=2.1.0", "Change the version"},
     {"zupackage set my-package \"names/name[@lang='fr']=L'heure du conte\" --dry-run",
      "Show what changing the French name would do"},
@@ -38,6 +38,6 @@ constexpr Example k_examples[] = {
 
 } // namespace
 
-const Command k_set = {"set", "Change texts of a manifest, and nothing else in it", prepare, k_examples};
+const Command k_set = {"set", "Change texts of a manifest, and nothing else in it", prepareSet, k_setExamples};
 
 } // namespace zu::cli

@@ -50,7 +50,7 @@ ExitCode show(const ShowArguments& arguments)
     return result;
 }
 
-std::function<ExitCode()> prepare(Arguments& arguments)
+std::function<ExitCode()> prepareShow(Arguments& arguments)
 {
     auto parsed = std::make_shared<ShowArguments>();
     arguments.require(parsed->sources, "SOURCE", "FILE|FOLDER|-",
@@ -59,7 +59,7 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return show(*parsed); };
 }
 
-constexpr Example k_examples[] = {
+constexpr Example k_showExamples[] = {
     {"zupackage show examples/packages/story-teller", "Print the package in a folder"},
     {"zupackage show examples/packages/*", "Print several"},
     {"curl -s https://example.org/manifest.xml | zupackage show -", "Print what comes through a pipe"},
@@ -67,6 +67,6 @@ constexpr Example k_examples[] = {
 
 } // namespace
 
-const Command k_show = {"show", "Print manifests as readable text", prepare, k_examples};
+const Command k_show = {"show", "Print manifests as readable text", prepareShow, k_showExamples};
 
 } // namespace zu::cli

@@ -81,7 +81,7 @@ ExitCode makeSite(const SiteArguments& arguments)
     return result;
 }
 
-std::function<ExitCode()> prepare(Arguments& arguments)
+std::function<ExitCode()> prepareSite(Arguments& arguments)
 {
     auto parsed = std::make_shared<SiteArguments>();
     arguments.require(parsed->sources, "SOURCE", "FILE|FOLDER|-",
@@ -92,13 +92,13 @@ std::function<ExitCode()> prepare(Arguments& arguments)
     return [parsed] { return makeSite(*parsed); };
 }
 
-constexpr Example k_examples[] = {
+constexpr Example k_siteExamples[] = {
     {"zupackage site examples/packages --output site", "Make pages of all packages below a folder"},
     {"zupackage site story-teller --single story-teller.html", "Make one page of one package"},
 };
 
 } // namespace
 
-const Command k_site = {"site", "Make a site of packages, as static pages", prepare, k_examples};
+const Command k_site = {"site", "Make a site of packages, as static pages", prepareSite, k_siteExamples};
 
 } // namespace zu::cli

@@ -11,16 +11,16 @@ namespace {
 using authoring::ChangeKind;
 using authoring::PackageChange;
 
-constexpr const char* k_red = "31";
-constexpr const char* k_green = "32";
+constexpr const char* k_removedColour = "31";
+constexpr const char* k_addedColour = "32";
 
 const char* colourOf(ChangeKind kind)
 {
     switch (kind) {
     case ChangeKind::Added:
-        return k_green;
+        return k_addedColour;
     case ChangeKind::Removed:
-        return k_red;
+        return k_removedColour;
     case ChangeKind::Changed:
         return "33";
     case ChangeKind::Moved:
@@ -78,17 +78,17 @@ std::string textsOf(const PackageChange& change, bool isColoured)
     if (change.kind == ChangeKind::Changed) {
         if (change.path.size() + change.before.size() + change.after.size() <= k_short)
             return ": " + inQuotes(change.before) + " -> " + inQuotes(change.after);
-        return marked(inQuotes(change.before), "-", k_red, isColoured) +
-               marked(inQuotes(change.after), "+", k_green, isColoured);
+        return marked(inQuotes(change.before), "-", k_removedColour, isColoured) +
+               marked(inQuotes(change.after), "+", k_addedColour, isColoured);
     }
     const std::string& text = change.kind == ChangeKind::Removed ? change.before : change.after;
     if (!change.isMarkup)
         return text.empty() ? std::string() : ": " + inQuotes(text);
     switch (change.kind) {
     case ChangeKind::Added:
-        return marked(text, "+", k_green, isColoured);
+        return marked(text, "+", k_addedColour, isColoured);
     case ChangeKind::Removed:
-        return marked(text, "-", k_red, isColoured);
+        return marked(text, "-", k_removedColour, isColoured);
     case ChangeKind::Changed:
     case ChangeKind::Moved:
         break;

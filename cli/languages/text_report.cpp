@@ -17,8 +17,8 @@ constexpr std::size_t k_labelWidth = 20;
 constexpr std::size_t k_longestCode = 14;
 constexpr std::size_t k_gap = 2;
 
-constexpr const char* k_bold = "1";
-constexpr const char* k_red = "1;31";
+constexpr const char* k_headingColour = "1";
+constexpr const char* k_missingColour = "1;31";
 constexpr const char* k_yellow = "33";
 
 std::string withWidth(const std::string& text, std::size_t width, bool isRightAligned)
@@ -50,7 +50,7 @@ public:
             return {};
         m_hasTable = true;
         const LanguageMatrix& matrix = manifest.matrix;
-        std::string text = painted(shortened(manifest.path, k_pageWidth), k_bold) + "\n\n";
+        std::string text = painted(shortened(manifest.path, k_pageWidth), k_headingColour) + "\n\n";
         const std::vector<std::size_t> widths = columnWidths(matrix);
         for (const Block block : blocksOf(widths))
             text += table(matrix, widths, block) + "\n";
@@ -115,8 +115,8 @@ private:
     std::string table(const LanguageMatrix& matrix, const std::vector<std::size_t>& widths, Block block) const
     {
         using Cell = std::pair<std::string, const char*>;
-        std::string text =
-            line("", widths, block, [&](std::size_t i) { return Cell(headingOf(matrix.languages[i]), k_bold); });
+        std::string text = line("", widths, block,
+                                [&](std::size_t i) { return Cell(headingOf(matrix.languages[i]), k_headingColour); });
         text += line("declared", widths, block, [&](std::size_t i) {
             const MatrixLanguage& language = matrix.languages[i];
             const std::string uses = std::string(language.isDescription ? "d" : "") +
@@ -131,14 +131,14 @@ private:
             for (const MatrixRow& row : part.rows) {
                 text += line("  " + std::string(nameOf(row.kind)), widths, block, [&](std::size_t i) {
                     if (matrix.isMissing(row, i))
-                        return Cell("-", k_red);
+                        return Cell("-", k_missingColour);
                     return row.count(i) == 0 ? Cell() : Cell(std::to_string(row.count(i)), nullptr);
                 });
             }
         }
         return text + line("covered", widths, block, [&](std::size_t i) {
                    const MatrixLanguage& language = matrix.languages[i];
-                   const char* const colour = m_gate.isMissedBy(language) ? k_red : nullptr;
+                   const char* const colour = m_gate.isMissedBy(language) ? k_missingColour : nullptr;
                    return language.isStray() ? Cell() : Cell(std::to_string(language.coverage.percent()) + "%", colour);
                });
     }

@@ -49,9 +49,9 @@ KindWords wordsOf(ValueKind kind)
     return {"", ""};
 }
 
-constexpr ValueKind k_kinds[] = {ValueKind::Text,    ValueKind::Flag,     ValueKind::LanguageCode, ValueKind::Version,
-                                 ValueKind::Path,    ValueKind::Date,     ValueKind::Identifier,   ValueKind::Nature,
-                                 ValueKind::Command, ValueKind::Condition};
+constexpr ValueKind k_valueKinds[] = {
+    ValueKind::Text, ValueKind::Flag,       ValueKind::LanguageCode, ValueKind::Version, ValueKind::Path,
+    ValueKind::Date, ValueKind::Identifier, ValueKind::Nature,       ValueKind::Command, ValueKind::Condition};
 
 const char* wordsOf(Occurrence occurrence)
 {
@@ -101,7 +101,7 @@ std::string manifestReferenceInMarkdown()
     std::string page = "<!-- Written by the build from the vocabulary of manifests: change that. -->\n"
                        "# What a manifest may contain\n\n";
     page.append(wrapped(k_introduction, k_width)).append("\n## Values\n\n| value | is |\n|---|---|\n");
-    for (const ValueKind kind : k_kinds)
+    for (const ValueKind kind : k_valueKinds)
         page.append("| ").append(wordsOf(kind).name).append(" | ").append(wordsOf(kind).form).append(" |\n");
     for (const ElementEntry& element : authoring::Vocabulary::manifest().elements()) {
         page.append("\n## ").append(element.path).append("\n\n").append(wrapped(sentencesOf(element), k_width));
@@ -125,7 +125,7 @@ std::string manifestPage(const std::string& version)
     std::string page = roffTitle("zupackage-manifest", 5, version);
     page += ".SH NAME\nzupackage\\-manifest \\- what the manifest of a package may contain\n.SH DESCRIPTION\n";
     page += roff(k_introduction) + "\n.SH VALUES\n";
-    for (const ValueKind kind : k_kinds)
+    for (const ValueKind kind : k_valueKinds)
         page += ".TP\n\\fI" + roff(wordsOf(kind).name) + "\\fR\n" + roff(wordsOf(kind).form) + "\n";
     page += ".SH ELEMENTS\n";
     for (const ElementEntry& element : authoring::Vocabulary::manifest().elements()) {

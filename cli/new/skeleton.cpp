@@ -58,13 +58,13 @@ void addService(const SkeletonWish& wish, Skeleton& skeleton)
     skeleton.files.push_back({service.execStart, "#!/bin/sh\n", true});
 }
 
-struct Kind
+struct SkeletonKind
 {
     const char* name;
     void (*add)(const SkeletonWish& wish, Skeleton& skeleton);
 };
 
-constexpr Kind k_kinds[] = {
+constexpr SkeletonKind k_skeletonKinds[] = {
     {"behavior", addBehavior}, {"dialog", addDialog}, {"language", addLanguages}, {"service", addService}};
 
 } // namespace
@@ -73,7 +73,7 @@ const std::vector<std::string>& skeletonKinds()
 {
     static const std::vector<std::string> names = [] {
         std::vector<std::string> all;
-        for (const Kind& kind : k_kinds)
+        for (const SkeletonKind& kind : k_skeletonKinds)
             all.emplace_back(kind.name);
         return all;
     }();
@@ -91,7 +91,7 @@ void makeSkeleton(const SkeletonWish& wish, Skeleton& skeleton)
         skeleton.package.addSupportedLanguage(language);
         skeleton.package.addDescriptionLanguage(language);
     }
-    for (const Kind& kind : k_kinds) {
+    for (const SkeletonKind& kind : k_skeletonKinds) {
         if (wish.kind == kind.name)
             kind.add(wish, skeleton);
     }

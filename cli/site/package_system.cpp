@@ -24,7 +24,7 @@ Html tableStart(std::string_view caption, std::initializer_list<std::string_view
 
 constexpr Markup k_tableEnd = "</tbody>\n</table>\n</div>\n"_html;
 
-Html cell(std::string_view text)
+Html tableCell(std::string_view text)
 {
     Html html;
     return html << "<td><bdi>"_html << text << "</bdi></td>"_html;
@@ -50,8 +50,8 @@ Html requirementsSection(const SitePackage& package, const PagePlace& place)
         html << tableStart("Robots", {"Model", "Head version", "Body version"});
         for (const RobotRequirement& robot : robots)
             html << rowHead(robot.model.empty() ? "any" : robot.model)
-                 << cell(rangeOf(robot.minHeadVersion, robot.maxHeadVersion))
-                 << cell(rangeOf(robot.minBodyVersion, robot.maxBodyVersion)) << "</tr>\n"_html;
+                 << tableCell(rangeOf(robot.minHeadVersion, robot.maxHeadVersion))
+                 << tableCell(rangeOf(robot.minBodyVersion, robot.maxBodyVersion)) << "</tr>\n"_html;
         html << k_tableEnd;
     }
     for (const MorvoRequirement& version : versions)
@@ -70,7 +70,7 @@ Html servicesSection(const SitePackage& package, const PagePlace& place)
         html << tableStart("Services", {"Name", "Command", "Starts", "Environment"});
         for (const PackageService& service : package.package.services()) {
             html << rowHead(service.name) << "<td><code>"_html << service.execStart << "</code></td>"_html
-                 << cell(service.autoRun ? "by itself" : "when asked to") << "<td>"_html;
+                 << tableCell(service.autoRun ? "by itself" : "when asked to") << "<td>"_html;
             for (const auto& [name, value] : service.envVars)
                 html << "<code>"_html << name << "="_html << value << "</code> "_html;
             html << "</td></tr>\n"_html;

@@ -124,9 +124,9 @@ zu::PackageInfo2 packageFrom(xml::Node root)
     return package;
 }
 
-std::string openFailure(const std::string& source) { return "Could not open " + source + " for reading."; }
+std::string cannotOpen(const std::string& source) { return "Could not open " + source + " for reading."; }
 
-std::string syntaxError(const std::string& source, const xml::ParseFailure& failure)
+std::string syntaxErrorIn(const std::string& source, const xml::ParseFailure& failure)
 {
     return "Syntax error in " + source + ":" + std::to_string(failure.line) + ":" + std::to_string(failure.column) +
            ": " + failure.message;
@@ -148,7 +148,7 @@ namespace zu {
 PackageInfo2 loadManifest(const std::string& path)
 {
     QFile file(zupackage::xml::fromUtf8(path));
-    const zupackage::FailurePolicy thrown{&zupackage::openFailure, &zupackage::syntaxError, &zupackage::logAndThrow};
+    const zupackage::FailurePolicy thrown{&zupackage::cannotOpen, &zupackage::syntaxErrorIn, &zupackage::logAndThrow};
     return zupackage::packageFrom(zupackage::documentIn(file, path, thrown)->root());
 }
 

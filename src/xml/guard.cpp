@@ -7,15 +7,6 @@ QT_WARNING_DISABLE_DEPRECATED
 
 namespace zupackage::xml {
 
-namespace {
-
-bool isNamespaceDeclaration(const QString& name)
-{
-    return name.startsWith(QLatin1String("xmlns")) && (name.size() == 5 || name.at(5) == QLatin1Char(':'));
-}
-
-} // namespace
-
 Guard::Guard(Model model, qint64 documentBytes)
     : m_model(model), m_allowedSteps(cost::allowedSteps(documentBytes)),
       m_allowedMemory(cost::allowedMemory(documentBytes, model != Model::Tree))

@@ -6,6 +6,12 @@ QString fromUtf8(std::string_view text) { return QString::fromUtf8(text.data(), 
 
 std::string toUtf8(const QString& text) { return text.toUtf8().toStdString(); }
 
+bool isNamespaceDeclaration(const QString& attribute)
+{
+    return attribute.startsWith(QLatin1String("xmlns")) &&
+           (attribute.size() == 5 || attribute.at(5) == QLatin1Char(':'));
+}
+
 void readTexts(Node container, std::string_view keyName, std::map<std::string, std::string>& texts)
 {
     for (const Node child : container.children())

@@ -1,5 +1,7 @@
 #include "xml/tree_builder.hpp"
 
+#include "xml/nodes.hpp"
+
 #include <QtCore/QSet>
 
 #include <algorithm>
@@ -14,11 +16,6 @@ namespace {
 bool isWhiteSpace(const QString& text)
 {
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
-}
-
-bool isNamespaceDeclaration(const QString& name)
-{
-    return name.startsWith(QLatin1String("xmlns")) && (name.size() == 5 || name.at(5) == QLatin1Char(':'));
 }
 
 QString localName(const QString& name)

@@ -1,5 +1,4 @@
-#include "support/files.hpp"
-#include "support/program.hpp"
+#include "cli/zupackage.hpp"
 #include "support/texts.hpp"
 
 #include <gmock/gmock.h>
@@ -15,6 +14,7 @@ namespace zu {
 namespace fs = std::filesystem;
 using test::ProgramResult;
 using test::replaced;
+using test::zupackage;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -27,11 +27,6 @@ const std::string k_manifest = "<package uuid='a' version='1.0'>\n"
                                "    <name lang='fr'>B</name>\n"
                                "  </names>\n"
                                "</package>";
-
-ProgramResult run(const std::vector<std::string>& arguments, const std::string& input = {})
-{
-    return test::runProgram(ZUPACKAGE_PROGRAM, arguments, {input, {}, {}});
-}
 
 /// Runs the program by a shell: its name and arguments are "$@".
 ProgramResult runBy(const std::string& script, std::vector<std::string> arguments)
@@ -57,7 +52,8 @@ protected:
 
 TEST_F(EditCommands, SetChangesTextsAndNothingElse)
 {
-    const ProgramResult result = run({"set", folder.path().string(), "@version=2.0", "names/name[@lang='fr']=x=y"});
+    const ProgramResult result =
+        zupackage({"set", folder.path().string(), "@version=2.0", "names/name[@lang='fr']=x=y"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_THAT(result.output + result.errors, IsEmpty());
     EXPECT_EQ(content(), replaced(replaced(k_manifest, "1.0", "2.0"), ">B<", ">x=y<"));
@@ -65,37 +61,38 @@ TEST_F(EditCommands, SetChangesTextsAndNothingElse)
 
 TEST_F(EditCommands, ThePathEndsAtTheFirstEqualsSignOutsideOfBrackets)
 {
-    EXPECT_EQ(run({"set", manifest, "names/name[@lang=\"fr\"][.='B']/@lang=de"}).exitCode, 0);
+    EXPECT_EQ(zupackage({"set", manifest, "names/name[@lang=\"fr\"][.='B']/@lang=de"}).exitCode, 0);
     EXPECT_EQ(content(), replaced(k_manifest, "'fr'", "'de'"));
-    EXPECT_EQ(run({"set", manifest, "descriptions/description[@lang='en']=[']=]"}).exitCode, 0);
+    EXPECT_EQ(zupackage({"set", manifest, "descriptions/description[@lang='en']=[']=]"}).exitCode, 0);
     EXPECT_THAT(content(), HasSubstr("<description lang='en'>[']=]</description>"));
-    EXPECT_EQ(run({"set", manifest, "names/name[1]"}).errors,
+    EXPECT_EQ(zupackage({"set", manifest, "names/name[1]"}).errors,
               "zupackage: \"names/name[1]\" is not of the form PATH=TEXT\n");
 }
 
 TEST_F(EditCommands, AddAppendsAnEntry)
 {
-    EXPECT_EQ(run({"add", manifest, "names/name", "@lang=de", ".=C"}).exitCode, 0);
+    EXPECT_EQ(zupackage({"add", manifest, "names/name", "@lang=de", ".=C"}).exitCode, 0);
     EXPECT_EQ(content(), replaced(k_manifest, "B</name>\n", "B</name>\n    <name lang='de'>C</name>\n"));
 }
 
 TEST_F(EditCommands, RemoveTakesLinesAway)
 {
-    EXPECT_EQ(run({"remove", manifest, "names/name[@lang='fr']"}).exitCode, 0);
+    EXPECT_EQ(zupackage({"remove", manifest, "names/name[@lang='fr']"}).exitCode, 0);
     EXPECT_EQ(content(), replaced(k_manifest, "    <name lang='fr'>B</name>\n", ""));
 }
 
 TEST_F(EditCommands, StandardInputGoesToStandardOutput)
 {
-    const ProgramResult result = run({"set", "-", "@version=1.0"}, k_manifest);
+    const ProgramResult result = zupackage({"set", "-", "@version=1.0"}, k_manifest);
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.output, k_manifest);
-    EXPECT_EQ(run({"remove", "-", "names/name"}, "<p><names><name/></names></p>").output, "<p><names></names></p>");
+    EXPECT_EQ(zupackage({"remove", "-", "names/name"}, "<p><names><name/></names></p>").output,
+              "<p><names></names></p>");
 }
 
 TEST_F(EditCommands, ADryRunShowsTheDifferenceAndWritesNothing)
 {
-    const ProgramResult result = run({"set", manifest, "@version=2.0", "names/name[@lang='fr']=C", "--dry-run"});
+    const ProgramResult result = zupackage({"set", manifest, "@version=2.0", "names/name[@lang='fr']=C", "--dry-run"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.output, "--- " + manifest + "\n+++ " + manifest +
                                  "\n@@ -1,7 +1,7 @@\n"
@@ -110,7 +107,7 @@ TEST_F(EditCommands, ADryRunShowsTheDifferenceAndWritesNothing)
                                  " </package>\n"
                                  "\\ No newline at end of file\n");
     EXPECT_EQ(content(), k_manifest);
-    EXPECT_THAT(run({"set", manifest, "@version=1.0", "--dry-run"}).output, IsEmpty());
+    EXPECT_THAT(zupackage({"set", manifest, "@version=1.0", "--dry-run"}).output, IsEmpty());
 }
 
 TEST_F(EditCommands, TheReadmeShowsADryRun)
@@ -128,8 +125,8 @@ TEST_F(EditCommands, FarDifferencesStandInHunksOfTheirOwn)
     std::string lines;
     for (int i = 0; i < 20; ++i)
         lines += "<!-- " + std::to_string(i) + " -->\n";
-    const ProgramResult result =
-        run({"set", "-", "@uuid=b", "names/name[@lang='en']=A", "--dry-run"}, "<p uuid='a'>\n" + lines + "</p>\n");
+    const ProgramResult result = zupackage({"set", "-", "@uuid=b", "names/name[@lang='en']=A", "--dry-run"},
+                                           "<p uuid='a'>\n" + lines + "</p>\n");
     EXPECT_EQ(result.output, "--- standard input\t\n+++ standard input\t\n"
                              "@@ -1,4 +1,4 @@\n"
                              "-<p uuid='a'>\n"
@@ -145,10 +142,10 @@ TEST_F(EditCommands, FarDifferencesStandInHunksOfTheirOwn)
 
 TEST_F(EditCommands, AllIsDoneOrNothing)
 {
-    const ProgramResult absent = run({"remove", manifest, "names/name[@lang='fr']", "@channel"});
+    const ProgramResult absent = zupackage({"remove", manifest, "names/name[@lang='fr']", "@channel"});
     EXPECT_EQ(absent.exitCode, 4);
     EXPECT_EQ(absent.errors, "zupackage: " + manifest + ": there is no @channel; the nearest is /package\n");
-    const ProgramResult wrong = run({"set", manifest, "@version=2.0", "@installOnlyAtStartup=yes"});
+    const ProgramResult wrong = zupackage({"set", manifest, "@version=2.0", "@installOnlyAtStartup=yes"});
     EXPECT_EQ(wrong.exitCode, 2);
     EXPECT_EQ(wrong.errors, "zupackage: " + manifest + ": \"yes\" is no flag: \"true\", \"1\", \"false\" or \"0\"\n");
     EXPECT_EQ(content(), k_manifest);
@@ -156,14 +153,14 @@ TEST_F(EditCommands, AllIsDoneOrNothing)
 
 TEST_F(EditCommands, ForceMakesWhatManifestsDoNotHave)
 {
-    EXPECT_EQ(run({"set", manifest, "@flavour=mint", "--force"}).exitCode, 0);
+    EXPECT_EQ(zupackage({"set", manifest, "@flavour=mint", "--force"}).exitCode, 0);
     EXPECT_EQ(content(), replaced(k_manifest, "'1.0'", "'1.0' flavour='mint'"));
 }
 
 TEST_F(EditCommands, AnIllFormedDocumentIsRefusedWithItsPlace)
 {
     test::writeFile(manifest, "<package>\n</packag>");
-    const ProgramResult result = run({"set", manifest, "@uuid=a", "--force"});
+    const ProgramResult result = zupackage({"set", manifest, "@uuid=a", "--force"});
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_THAT(result.errors, HasSubstr("manifest.xml:2:1: "));
 }
@@ -172,7 +169,7 @@ TEST_F(EditCommands, LinksAndModesStay)
 {
     fs::create_symlink("manifest.xml", folder.path() / "link.xml");
     ASSERT_EQ(chmod(manifest.c_str(), 0640), 0);
-    EXPECT_EQ(run({"set", (folder.path() / "link.xml").string(), "@version=2.0"}).exitCode, 0);
+    EXPECT_EQ(zupackage({"set", (folder.path() / "link.xml").string(), "@version=2.0"}).exitCode, 0);
     EXPECT_TRUE(fs::is_symlink(folder.path() / "link.xml"));
     EXPECT_EQ(fs::status(manifest).permissions(), static_cast<fs::perms>(0640));
     EXPECT_EQ(content(), replaced(k_manifest, "1.0", "2.0"));

@@ -1,5 +1,4 @@
-#include "support/files.hpp"
-#include "support/program.hpp"
+#include "cli/zupackage.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,10 +10,10 @@ using testing::StartsWith;
 
 namespace {
 
-const std::string k_manifest = "<p version='1.0'><names><name lang='en'>A &amp; B</name>"
+const std::string k_twoNames = "<p version='1.0'><names><name lang='en'>A &amp; B</name>"
                                "<name lang='fr'>two\nlines</name></names></p>";
 
-test::ProgramResult get(std::vector<std::string> arguments, const std::string& input = k_manifest)
+test::ProgramResult get(std::vector<std::string> arguments, const std::string& input = k_twoNames)
 {
     arguments.insert(arguments.begin(), "get");
     return test::runProgram(ZUPACKAGE_PROGRAM, arguments, {input, {}, {}});
@@ -32,7 +31,7 @@ TEST(Get, PrintsTheTextsOfAllPathsOneALine)
 
 TEST(Get, TakesAFolderForItsManifest)
 {
-    const std::string folder = test::sourcePath("examples/packages/story-teller").string();
+    const std::string folder = test::examplePath("story-teller");
     for (const std::string& source : {folder, folder + "/manifest.xml"})
         EXPECT_EQ(get({source, "@uuid"}).output, "org.example.storyteller\n");
 }
@@ -72,7 +71,7 @@ TEST(Get, WhatCannotBeReadIsReportedWithItsPlace)
 
 TEST(Get, OutputThatCannotBeWrittenIsReported)
 {
-    EXPECT_EQ(test::runProgram(ZUPACKAGE_PROGRAM, {"get", "-", "@version"}, {k_manifest, "/dev/full", {}}).exitCode, 5);
+    EXPECT_EQ(test::runProgram(ZUPACKAGE_PROGRAM, {"get", "-", "@version"}, {k_twoNames, "/dev/full", {}}).exitCode, 5);
 }
 
 } // namespace zu

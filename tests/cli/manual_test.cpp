@@ -1,5 +1,4 @@
-#include "support/files.hpp"
-#include "support/program.hpp"
+#include "cli/zupackage.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,6 +10,7 @@
 namespace zu {
 
 namespace fs = std::filesystem;
+using test::zupackage;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::EndsWith;
@@ -39,11 +39,6 @@ std::vector<std::string> linesOf(const std::string& text)
         if (!line.empty())
             lines.push_back(line);
     return lines;
-}
-
-test::ProgramResult zupackage(const std::vector<std::string>& arguments)
-{
-    return test::runProgram(ZUPACKAGE_PROGRAM, arguments);
 }
 
 std::vector<std::string> commands()

@@ -1,5 +1,4 @@
-#include "support/files.hpp"
-#include "support/program.hpp"
+#include "cli/zupackage.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,16 +8,12 @@
 namespace zu {
 
 using test::ProgramResult;
+using test::zupackage;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace {
-
-ProgramResult zupackage(const std::vector<std::string>& arguments)
-{
-    return test::runProgram(ZUPACKAGE_PROGRAM, arguments);
-}
 
 class NewCommand : public testing::Test
 {

@@ -9,7 +9,7 @@ namespace zu {
 
 namespace {
 
-const std::string k_manifest =
+const std::string k_manifestInLines =
     "<package uuid='a' version='1.0'>\n<names>\n<name lang='en'>A</name>\n</names>\n</package>";
 
 /// Puts a manifest into a folder of its own and the difference that a command shows through `patch`.
@@ -47,8 +47,8 @@ TEST(Patch, TakesADryRunOfFilesWhateverTheirNames)
          {"manifest.xml", "./manifest.xml", "my package/manifest.xml", " blank .xml", "two\nlines.xml", "quo\"te.xml",
           "tab\tbed.xml", "back\\slash.xml", "it's.xml", "\xc3\xa9t\xc3\xa9.xml"}) {
         SCOPED_TRACE(name);
-        EXPECT_EQ(PatchedManifest(name, k_manifest).after("\"$1\" set \"$2\" @version=2.0 --dry-run"),
-                  test::replaced(k_manifest, "1.0", "2.0"));
+        EXPECT_EQ(PatchedManifest(name, k_manifestInLines).after("\"$1\" set \"$2\" @version=2.0 --dry-run"),
+                  test::replaced(k_manifestInLines, "1.0", "2.0"));
     }
 }
 
@@ -63,7 +63,7 @@ TEST(Patch, TakesADryRunOfDocumentsInEncodingsWithLines)
 
 TEST(Patch, TakesWhatFormattingWouldChange)
 {
-    EXPECT_EQ(PatchedManifest("my package/manifest.xml", k_manifest).after("\"$1\" format --diff \"$2\""),
+    EXPECT_EQ(PatchedManifest("my package/manifest.xml", k_manifestInLines).after("\"$1\" format --diff \"$2\""),
               "<package uuid='a' version='1.0'>\n  <names>\n    <name lang='en'>A</name>\n  </names>\n</package>\n");
 }
 

@@ -1,21 +1,13 @@
-#include "support/program.hpp"
+#include "cli/zupackage.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace zu {
 
+using test::zupackage;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-namespace {
-
-test::ProgramResult zupackage(const std::vector<std::string>& arguments)
-{
-    return test::runProgram(ZUPACKAGE_PROGRAM, arguments);
-}
-
-} // namespace
 
 TEST(Program, HelpGoesToStandardOutput)
 {

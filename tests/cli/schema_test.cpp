@@ -1,21 +1,16 @@
-#include "support/files.hpp"
-#include "support/program.hpp"
+#include "cli/zupackage.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace zu {
 
+using test::zupackage;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
 namespace {
-
-test::ProgramResult run(const std::vector<std::string>& arguments)
-{
-    return test::runProgram(ZUPACKAGE_PROGRAM, arguments);
-}
 
 const std::filesystem::path k_schemas = std::filesystem::path(ZUPACKAGE_MANUAL_FOLDER) / "zupackage/schemas";
 
@@ -31,12 +26,12 @@ test::ProgramResult validated(const std::string& path)
 
 TEST(Schema, WritesWhatIsInstalled)
 {
-    const test::ProgramResult xsd = run({"schema"});
+    const test::ProgramResult xsd = zupackage({"schema"});
     EXPECT_EQ(xsd.exitCode, 0);
     EXPECT_EQ(xsd.output, test::readFile(k_schemas / "manifest.xsd"));
-    EXPECT_EQ(run({"schema", "--format", "xsd"}).output, xsd.output);
-    EXPECT_EQ(run({"schema", "--format", "json"}).output, test::readFile(k_schemas / "manifest.schema.json"));
-    EXPECT_EQ(run({"schema", "--format", "dtd"}).exitCode, 2);
+    EXPECT_EQ(zupackage({"schema", "--format", "xsd"}).output, xsd.output);
+    EXPECT_EQ(zupackage({"schema", "--format", "json"}).output, test::readFile(k_schemas / "manifest.schema.json"));
+    EXPECT_EQ(zupackage({"schema", "--format", "dtd"}).exitCode, 2);
 }
 
 TEST(Schema, OutputThatCannotBeWrittenIsAFailureOfItsOwn)
@@ -63,13 +58,13 @@ TEST(Schema, ANewManifestNamesItWhenAsked)
     const test::TemporaryFolder folder;
     const std::string named = (folder.path() / "named").string();
     const std::string plain = (folder.path() / "plain").string();
-    EXPECT_EQ(run({"new", "--schema", named}).exitCode, 0);
-    EXPECT_EQ(run({"new", plain}).exitCode, 0);
+    EXPECT_EQ(zupackage({"new", "--schema", named}).exitCode, 0);
+    EXPECT_EQ(zupackage({"new", plain}).exitCode, 0);
     EXPECT_THAT(test::readFile(named + "/manifest.xml"),
                 HasSubstr("?>\n<?xml-model href=\"urn:zupackage:manifest:schema\" "
                           "schematypens=\"http://www.w3.org/2001/XMLSchema\"?>\n<package "));
     EXPECT_THAT(test::readFile(plain + "/manifest.xml"), Not(HasSubstr("xml-model")));
-    const test::ProgramResult check = run({"check", "--fail-on", "pedantic", named});
+    const test::ProgramResult check = zupackage({"check", "--fail-on", "pedantic", named});
     EXPECT_EQ(check.exitCode, 0);
     EXPECT_THAT(check.output, IsEmpty());
     EXPECT_EQ(validated(named + "/manifest.xml").exitCode, 0);

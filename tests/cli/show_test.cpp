@@ -1,11 +1,11 @@
-#include "support/files.hpp"
-#include "support/program.hpp"
+#include "cli/zupackage.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace zu {
 
+using test::examplePath;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -16,8 +16,6 @@ test::ProgramResult show(std::vector<std::string> arguments, const test::Program
     arguments.insert(arguments.begin(), "show");
     return test::runProgram(ZUPACKAGE_PROGRAM, arguments, setting);
 }
-
-std::string examplePath(const std::string& name) { return test::sourcePath("examples/packages/" + name).string(); }
 
 std::string goldenDump(const std::string& name)
 {

@@ -10,11 +10,7 @@
 
 namespace zu {
 
-namespace {
-
-std::string written(PackageInfo package) { return package.saveToManifestContent(); }
-
-} // namespace
+using test::written;
 
 TEST(PackageWriter, OfADefaultPackageHasOneFlagAndEmptyContents)
 {

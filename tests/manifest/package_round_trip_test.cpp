@@ -7,16 +7,10 @@ namespace zu {
 
 using test::checkProperty;
 using test::describe;
+using test::k_inputs;
 using test::packageFrom;
 using test::packages;
-
-namespace {
-
-std::string written(const PackageInfo& package) { return PackageInfo(package).saveToManifestContent(); }
-
-constexpr int k_inputs = 10'000;
-
-} // namespace
+using test::written;
 
 TEST(PackageRoundTrip, GeneratedPackagesHaveRecordsOfEveryKind)
 {

@@ -58,7 +58,7 @@ std::string fileContent(const PackageInfo& package, const test::TemporaryFolder&
 std::string text(PackageInfo package) { return package.saveToManifestContent(); }
 
 /// A package with permissions and empty lists that come through no public door.
-PackageInfo anyPackage()
+PackageInfo packageThroughNoDoor()
 {
     PackageInfo package = *test::packages(test::byteStrings(), test::byteStrings());
     for (BehaviorInfo& behavior : package.behaviors()) {
@@ -92,8 +92,8 @@ TEST(PackageWriterBesideQt, SortingComparesEverythingButTheOrderOfAttributes)
 TEST(PackageWriterBesideQt, GeneratedPackagesAreWrittenAlikeInBothForms)
 {
     const test::TemporaryFolder folder;
-    test::checkProperty(10'000, [&folder] {
-        const PackageInfo package = anyPackage();
+    test::checkProperty(test::k_inputs, [&folder] {
+        const PackageInfo package = packageThroughNoDoor();
         RC_ASSERT(withSortedAttributes(text(package)) == withSortedAttributes(test::textByQt(package)));
         RC_ASSERT(withSortedAttributes(fileContent(package, folder)) ==
                   withSortedAttributes(test::fileContentByQt(package)));

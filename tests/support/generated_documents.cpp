@@ -1,20 +1,13 @@
 #include "support/generated_documents.hpp"
 
+#include "support/choices.hpp"
+
 #include <rapidcheck.h>
 #include <vector>
 
 namespace zu::test {
 
 namespace {
-
-using Choices = std::vector<std::string>;
-
-int upTo(int most) { return *rc::gen::resize(rc::kNominalSize, rc::gen::inRange(0, most + 1)); }
-
-const std::string& oneOf(const Choices& choices)
-{
-    return choices[static_cast<std::size_t>(upTo(static_cast<int>(choices.size()) - 1))];
-}
 
 const Choices k_names = {"names",
                          "name",

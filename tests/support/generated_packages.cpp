@@ -13,42 +13,42 @@ using rc::gen::element;
 using rc::gen::elementOf;
 using rc::gen::resize;
 
-const std::vector<std::string> k_pieces = {"a",
-                                           "Z",
-                                           "7",
-                                           " ",
-                                           "  ",
-                                           "\t",
-                                           "\n",
-                                           "\r",
-                                           "\r\n",
-                                           "<",
-                                           ">",
-                                           "&",
-                                           "\"",
-                                           "'",
-                                           "]]",
-                                           "]",
-                                           "]]>",
-                                           "/>",
-                                           "</",
-                                           "<!--",
-                                           "-->",
-                                           "<?",
-                                           "?>",
-                                           "<![CDATA[",
-                                           "&amp;",
-                                           "&#0;",
-                                           "\xc3\xa9",
-                                           "\xe6\x97\xa5",
-                                           "\xf0\x9f\xa4\x96",
-                                           "\xc2\xa0",
-                                           "\xe2\x80\xa8",
-                                           "e\xcc\x81",
-                                           "\x7f",
-                                           "=",
-                                           "%",
-                                           "\\"};
+const std::vector<std::string> k_textPieces = {"a",
+                                               "Z",
+                                               "7",
+                                               " ",
+                                               "  ",
+                                               "\t",
+                                               "\n",
+                                               "\r",
+                                               "\r\n",
+                                               "<",
+                                               ">",
+                                               "&",
+                                               "\"",
+                                               "'",
+                                               "]]",
+                                               "]",
+                                               "]]>",
+                                               "/>",
+                                               "</",
+                                               "<!--",
+                                               "-->",
+                                               "<?",
+                                               "?>",
+                                               "<![CDATA[",
+                                               "&amp;",
+                                               "&#0;",
+                                               "\xc3\xa9",
+                                               "\xe6\x97\xa5",
+                                               "\xf0\x9f\xa4\x96",
+                                               "\xc2\xa0",
+                                               "\xe2\x80\xa8",
+                                               "e\xcc\x81",
+                                               "\x7f",
+                                               "=",
+                                               "%",
+                                               "\\"};
 
 // Control characters, characters that no document holds, byte order marks, and all ways of being no UTF-8.
 const std::vector<std::string> k_unreadablePieces = {{'\0'},
@@ -196,12 +196,12 @@ rc::Gen<std::string> joined(const rc::Gen<std::string>& pieces)
 
 } // namespace
 
-rc::Gen<std::string> texts() { return joined(elementOf(k_pieces)); }
+rc::Gen<std::string> texts() { return joined(elementOf(k_textPieces)); }
 
 rc::Gen<std::string> byteStrings()
 {
     const auto bytes = rc::gen::map(rc::gen::arbitrary<char>(), [](char byte) { return std::string(1, byte); });
-    return joined(rc::gen::oneOf(elementOf(k_pieces), elementOf(k_unreadablePieces), bytes));
+    return joined(rc::gen::oneOf(elementOf(k_textPieces), elementOf(k_unreadablePieces), bytes));
 }
 
 rc::Gen<std::string> visibleTexts()

@@ -23,6 +23,9 @@ inline PackageInfo packageFrom(const std::string& document)
     return package;
 }
 
+/// The manifest that the package writes.
+inline std::string written(PackageInfo package) { return package.saveToManifestContent(); }
+
 /// The package that one element under "contents" makes.
 inline PackageInfo packageWithContent(const std::string& element)
 {

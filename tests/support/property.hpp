@@ -11,6 +11,9 @@
 
 namespace zu::test {
 
+/// On how many inputs a property is checked that costs little.
+constexpr int k_inputs = 10'000;
+
 /// Of 100 inputs that a property asks for, how many it gets: ZU_PROPERTY_PERCENT in the environment, else all. Builds
 /// in which inputs are slow set it.
 inline int propertyPercent()

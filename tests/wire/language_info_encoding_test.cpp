@@ -50,7 +50,7 @@ VXValue encoded(const LanguageInfo& language)
 }
 
 /// The encoding with another value in the pair at `index`.
-VXValue with(int index, VXValue value)
+VXValue languageWith(int index, VXValue value)
 {
     VXValue encoding = wholeLanguageEncoded();
     encoding[index][1] = std::move(value);
@@ -112,13 +112,13 @@ TEST(LanguageDecoding, IgnoresWhatFollowsTheFifthPair)
 
 TEST(LanguageDecoding, OfARepeatedLanguageTheLaterNameStays)
 {
-    EXPECT_EQ(LanguageInfo(with(4, array({pair("en", "first"), pair("en", "second")}))).name("en"), "second");
+    EXPECT_EQ(LanguageInfo(languageWith(4, array({pair("en", "first"), pair("en", "second")}))).name("en"), "second");
 }
 
 TEST(LanguageDecoding, TakesABinaryForAText)
 {
     testing::internal::CaptureStdout();
-    EXPECT_EQ(LanguageInfo(with(3, binary("de"))).locale(), std::string("de\0", 3));
+    EXPECT_EQ(LanguageInfo(languageWith(3, binary("de"))).locale(), std::string("de\0", 3));
     EXPECT_EQ(testing::internal::GetCapturedStdout(),
               "WARNING: VXValue::operator const TVXValueString&: creating a string on the fly to patch possible ruby "
               "encoding problem (size of binary: 2)\n");
@@ -144,11 +144,11 @@ TEST(LanguageDecoding, RefusesWrongInnerShapes)
 {
     for (int index = 0; index < 4; ++index) {
         SCOPED_TRACE(index);
-        EXPECT_EQ(errorOf([&] { LanguageInfo{with(index, {})}; }), typeError("String", "Invalid", ""));
-        EXPECT_EQ(errorOf([&] { LanguageInfo{with(index, array({}))}; }), typeError("String", "Array", "[]"));
+        EXPECT_EQ(errorOf([&] { LanguageInfo{languageWith(index, {})}; }), typeError("String", "Invalid", ""));
+        EXPECT_EQ(errorOf([&] { LanguageInfo{languageWith(index, array({}))}; }), typeError("String", "Array", "[]"));
     }
-    EXPECT_EQ(errorOf([] { LanguageInfo{with(4, {})}; }), typeError("Array", "Invalid", ""));
-    EXPECT_EQ(errorOf([] { LanguageInfo{with(4, array({pair("en", 1)}))}; }), typeError("String", "Int", "1"));
+    EXPECT_EQ(errorOf([] { LanguageInfo{languageWith(4, {})}; }), typeError("Array", "Invalid", ""));
+    EXPECT_EQ(errorOf([] { LanguageInfo{languageWith(4, array({pair("en", 1)}))}; }), typeError("String", "Int", "1"));
     VXValue value = wholeLanguageEncoded();
     value[2].resizeArray(1);
     EXPECT_EQ(errorOf([&] { LanguageInfo{value}; }),

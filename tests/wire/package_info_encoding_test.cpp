@@ -47,7 +47,7 @@ PackageInfo everything()
 }
 
 /// The encoding with another value in the pair at `index`.
-VXValue with(int index, VXValue value)
+VXValue packageWith(int index, VXValue value)
 {
     VXValue encoding = encoded(everything());
     encoding[index][1] = std::move(value);
@@ -155,7 +155,7 @@ TEST(PackageDecoding, OfAnotherOuterShapeGivesAnEmptyPackage)
 TEST(PackageDecoding, TakesABinaryForAText)
 {
     testing::internal::CaptureStdout();
-    const PackageInfo package = with(0, binary("id"));
+    const PackageInfo package = packageWith(0, binary("id"));
     EXPECT_EQ(testing::internal::GetCapturedStdout(),
               "WARNING: VXValue::operator const TVXValueString&: creating a string on the fly to patch possible ruby "
               "encoding problem (size of binary: 2)\n");
@@ -164,29 +164,29 @@ TEST(PackageDecoding, TakesABinaryForAText)
 
 TEST(PackageDecoding, KeepsDuplicatesInTheLanguageLists)
 {
-    EXPECT_THAT(PackageInfo(with(10, textArray({"en", "en"}))).supportedLanguages(), ElementsAre("en", "en"));
-    EXPECT_THAT(PackageInfo(with(19, textArray({"en", "en"}))).descriptionLanguages(), ElementsAre("en", "en"));
+    EXPECT_THAT(PackageInfo(packageWith(10, textArray({"en", "en"}))).supportedLanguages(), ElementsAre("en", "en"));
+    EXPECT_THAT(PackageInfo(packageWith(19, textArray({"en", "en"}))).descriptionLanguages(), ElementsAre("en", "en"));
 }
 
 TEST(PackageDecoding, FallsBackToEmptyBehaviorsAndDialogsInTheirLists)
 {
-    EXPECT_THAT(PackageInfo(with(11, array({{}, 42, array({})}))).behaviors(), SizeIs(3));
-    EXPECT_THAT(PackageInfo(with(18, array({{}, 42, array({})}))).dialogs(),
+    EXPECT_THAT(PackageInfo(packageWith(11, array({{}, 42, array({})}))).behaviors(), SizeIs(3));
+    EXPECT_THAT(PackageInfo(packageWith(18, array({{}, 42, array({})}))).dialogs(),
                 ElementsAre(DialogInfo(), DialogInfo(), DialogInfo()));
-    EXPECT_EQ(errorOf([] { PackageInfo{with(12, array({{}}))}; }), typeError("Array", "Invalid", ""));
+    EXPECT_EQ(errorOf([] { PackageInfo{packageWith(12, array({{}}))}; }), typeError("Array", "Invalid", ""));
 }
 
 TEST(PackageDecoding, RefusesValuesOfTheWrongType)
 {
     for (const int index : k_texts) {
-        EXPECT_EQ(errorOf([&] { PackageInfo{with(index, 42)}; }), typeError("String", "Int", "42")) << index;
-        EXPECT_EQ(errorOf([&] { PackageInfo{with(index, {})}; }), typeError("String", "Invalid", "")) << index;
+        EXPECT_EQ(errorOf([&] { PackageInfo{packageWith(index, 42)}; }), typeError("String", "Int", "42")) << index;
+        EXPECT_EQ(errorOf([&] { PackageInfo{packageWith(index, {})}; }), typeError("String", "Invalid", "")) << index;
     }
     for (const int index : k_lists) {
         SCOPED_TRACE(index);
-        EXPECT_EQ(errorOf([&] { PackageInfo{with(index, "x")}; }), typeError("Array", "String", "\"x\""));
-        EXPECT_EQ(errorOf([&] { PackageInfo{with(index, {})}; }), typeError("Array", "Invalid", ""));
-        EXPECT_EQ(errorOf([&] { PackageInfo{with(index, 1.5F)}; }),
+        EXPECT_EQ(errorOf([&] { PackageInfo{packageWith(index, "x")}; }), typeError("Array", "String", "\"x\""));
+        EXPECT_EQ(errorOf([&] { PackageInfo{packageWith(index, {})}; }), typeError("Array", "Invalid", ""));
+        EXPECT_EQ(errorOf([&] { PackageInfo{packageWith(index, 1.5F)}; }),
                   errorText("xAssertArraySize", "try to use a Float like an array"));
     }
 }
@@ -202,11 +202,11 @@ TEST(PackageDecoding, RefusesShortPairsRequirementsAndServices)
         value[index].resizeArray(1);
         EXPECT_EQ(errorOf([&] { PackageInfo{value}; }), tooShort(1, 2)) << index;
     }
-    EXPECT_EQ(errorOf([] { PackageInfo{with(14, array({textArray({"", "", "", ""})}))}; }), tooShort(4, 5));
-    EXPECT_EQ(errorOf([] { PackageInfo{with(15, array({textArray({""})}))}; }), tooShort(1, 2));
-    EXPECT_EQ(errorOf([] { PackageInfo{with(16, array({array({"", "", true})}))}; }), tooShort(3, 4));
+    EXPECT_EQ(errorOf([] { PackageInfo{packageWith(14, array({textArray({"", "", "", ""})}))}; }), tooShort(4, 5));
+    EXPECT_EQ(errorOf([] { PackageInfo{packageWith(15, array({textArray({""})}))}; }), tooShort(1, 2));
+    EXPECT_EQ(errorOf([] { PackageInfo{packageWith(16, array({array({"", "", true})}))}; }), tooShort(3, 4));
     EXPECT_EQ(errorOf([] {
-                  PackageInfo{with(16, array({array({"", "", {}, array({})})}))};
+                  PackageInfo{packageWith(16, array({array({"", "", {}, array({})})}))};
               }),
               errorText("const bool() const", "Cannot cast to bool an VXValue of invalid type."));
 }

@@ -12,6 +12,7 @@ using test::anyVariant;
 using test::checkProperty;
 using test::describe;
 using test::dumpOf;
+using test::k_inputs;
 using test::layout;
 using test::mutated;
 using test::packages;
@@ -19,8 +20,6 @@ using test::texts;
 using VX::VXValue;
 
 namespace {
-
-constexpr int k_inputs = 10'000;
 
 /// A package of all kinds of records, however small the input is, with installer and path, which the generator leaves
 /// empty.

@@ -42,12 +42,12 @@ void findMissingSection(const Checked& checked, Findings& findings, std::string_
         findings.at(root, std::move(message));
 }
 
-void findMissingNames(const Checked& checked, Findings& findings)
+void findNamelessPackages(const Checked& checked, Findings& findings)
 {
     findMissingSection(checked, findings, "/package/names", "the package has no name in any language");
 }
 
-void findMissingDescriptions(const Checked& checked, Findings& findings)
+void findUndescribedPackages(const Checked& checked, Findings& findings)
 {
     if (!checked.document.isComplete() || hasElements(checked.outline.elements("/package/descriptions")))
         return;
@@ -129,7 +129,7 @@ const std::vector<RuleRow>& completenessRules()
           "  <contents><webContent path=\"web\"/></contents>\n"
           "</package>",
           ""},
-         findMissingNames},
+         findNamelessPackages},
         {{"missing-descriptions", Severity::Info, "Description languages in a package without a description",
           "The package declares the languages in which it describes itself, and stores have nothing but its name to "
           "show in them. Behaviors may do without descriptions.",
@@ -146,7 +146,7 @@ const std::vector<RuleRow>& completenessRules()
           "  <contents><webContent path=\"web\"/></contents>\n"
           "</package>",
           ""},
-         findMissingDescriptions},
+         findUndescribedPackages},
         {{"missing-contents", Severity::Error, "The package has no contents",
           "Without a behavior, a dialog, a language or pages a package brings nothing to the robot.",
           ExampleFrame::Document,

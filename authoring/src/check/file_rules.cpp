@@ -14,7 +14,6 @@ using zu::authoring::ExampleFrame;
 using zu::authoring::Severity;
 using zu::authoring::ValueKind;
 
-constexpr std::string_view k_behavior = "/package/contents/behaviorContent";
 constexpr std::string_view k_topic = "/package/contents/dialogContent/topic";
 constexpr std::string_view k_executable = "/package/executableFiles/file";
 
@@ -102,7 +101,7 @@ void findFilesNamedTwice(const Checked& checked, Findings& findings)
 {
     if (!checked.folder)
         return;
-    for (const std::string_view entry : {k_behavior, k_topic, k_executable}) {
+    for (const std::string_view entry : {k_behaviorPath, k_topic, k_executable}) {
         std::map<std::string, SourceAttribute> seen;
         for (const SourceNode element : checked.outline.elements(entry)) {
             const SourceAttribute path = plainAttribute(element, "path");
@@ -152,7 +151,7 @@ void reportUnlisted(const Checked& checked, Findings& findings, std::string_view
 
 void findUnlistedBehaviors(const Checked& checked, Findings& findings)
 {
-    reportUnlisted(checked, findings, k_behavior, FileKind::Folder, "behavior");
+    reportUnlisted(checked, findings, k_behaviorPath, FileKind::Folder, "behavior");
 }
 
 void findUnlistedTopics(const Checked& checked, Findings& findings)

@@ -1,5 +1,6 @@
 #include "check/language_tag.hpp"
 
+#include "ascii.hpp"
 #include "check/language_codes.hpp"
 
 #include <algorithm>
@@ -10,12 +11,11 @@ namespace zupackage::check {
 
 namespace {
 
-// Not those of <cctype>, which ask the process for its locale.
-bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-bool isLetterOrDigit(char c) { return isLetter(c) || isDigit(c); }
-char lowered(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-char raised(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+using ascii::isDigit;
+using ascii::isLetter;
+using ascii::isLetterOrDigit;
+using ascii::lowered;
+using ascii::raised;
 
 bool lettersOnly(std::string_view part) { return std::all_of(part.begin(), part.end(), isLetter); }
 bool digitsOnly(std::string_view part) { return std::all_of(part.begin(), part.end(), isDigit); }

@@ -14,6 +14,9 @@ using zu::authoring::SourceAttribute;
 using zu::authoring::SourceDocument;
 using zu::authoring::SourceNode;
 
+/// That of the elements that many rules are about.
+inline constexpr std::string_view k_behaviorPath = "/package/contents/behaviorContent";
+
 /// What the vocabulary says about the elements of a document. The root counts as the vocabulary's, whatever its name.
 /// An element with a prefix is unknown, and so is all that stands in an unknown one.
 ///

@@ -1,3 +1,4 @@
+#include "ascii.hpp"
 #include "check/date.hpp"
 #include "check/findings.hpp"
 #include "check/version.hpp"
@@ -21,8 +22,6 @@ using zu::authoring::ExampleFrame;
 using zu::authoring::Severity;
 using zu::authoring::ValueKind;
 
-constexpr std::string_view k_behavior = "/package/contents/behaviorContent";
-
 /// Calls `visit(attribute)` for the attributes of that kind that hold something.
 template <typename Visit>
 void forEachValue(const Outline& outline, ValueKind kind, Visit visit)
@@ -37,18 +36,11 @@ void forEachValue(const Outline& outline, ValueKind kind, Visit visit)
     }
 }
 
-std::string lowered(std::string_view text)
-{
-    std::string result(text);
-    for (char& c : result)
-        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    return result;
-}
-
 /// What a text that is no flag says all the same; empty when it says nothing that we know.
 std::string_view meantFlag(std::string_view text)
 {
-    const std::string word = lowered(trimmed(text));
+    std::string word(trimmed(text));
+    std::transform(word.begin(), word.end(), word.begin(), ascii::lowered);
     constexpr std::array<std::string_view, 5> k_yes = {"true", "1", "yes", "on", "y"};
     constexpr std::array<std::string_view, 5> k_no = {"false", "0", "no", "off", "n"};
     if (std::find(k_yes.begin(), k_yes.end(), word) != k_yes.end())
@@ -172,7 +164,7 @@ void findTextsInUserRequestable(const Checked& checked, Findings& findings)
 
 void findUnreachableSentences(const Checked& checked, Findings& findings)
 {
-    for (const SourceNode behavior : checked.outline.elements(k_behavior)) {
+    for (const SourceNode behavior : checked.outline.elements(k_behaviorPath)) {
         const auto sentences = childrenNamed(behavior, "triggerSentences");
         if (!sentences.empty() && childrenNamed(behavior, "userRequestable").empty())
             findings.at(sentences.front(), "the behavior is not user-requestable, so that no sentence starts it");
@@ -184,7 +176,7 @@ void findUnaskedBehaviors(const Checked& checked, Findings& findings)
     // The sentences may stand behind an error that ended the document.
     if (!checked.document.isComplete())
         return;
-    for (const SourceNode behavior : checked.outline.elements(k_behavior)) {
+    for (const SourceNode behavior : checked.outline.elements(k_behaviorPath)) {
         const auto requestable = childrenNamed(behavior, "userRequestable");
         const auto sentences = childrenNamed(behavior, "triggerSentences");
         if (!requestable.empty() && !hasElements(sentences))

@@ -1,20 +1,21 @@
 #include "check/version.hpp"
 
+#include "ascii.hpp"
+
 #include <algorithm>
 
 namespace zupackage::check {
 
 namespace {
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+using ascii::isDigit;
 
 bool isNumber(std::string_view text) { return !text.empty() && std::all_of(text.begin(), text.end(), isDigit); }
 
 bool isWord(std::string_view text)
 {
-    return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) {
-        return isDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '-';
-    });
+    return !text.empty() &&
+           std::all_of(text.begin(), text.end(), [](char c) { return ascii::isLetterOrDigit(c) || c == '-'; });
 }
 
 std::vector<std::string_view> partsOf(std::string_view text)

@@ -1,5 +1,6 @@
 #include "check/wording.hpp"
 
+#include "ascii.hpp"
 #include "characters.hpp"
 
 #include <algorithm>
@@ -32,8 +33,6 @@ bool steersTerminal(std::string_view character)
     return false;
 }
 
-char lowered(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
 /// How many letters have to be inserted, removed, changed or swapped with their neighbour, whatever their case.
 std::size_t distance(std::string_view left, std::string_view right)
 {
@@ -45,10 +44,10 @@ std::size_t distance(std::string_view left, std::string_view right)
     for (std::size_t i = 1; i <= left.size(); ++i) {
         row[0] = i;
         for (std::size_t j = 1; j < width; ++j) {
-            const char a = lowered(left[i - 1]);
-            const char b = lowered(right[j - 1]);
+            const char a = ascii::lowered(left[i - 1]);
+            const char b = ascii::lowered(right[j - 1]);
             row[j] = std::min({last[j] + 1, row[j - 1] + 1, last[j - 1] + (a == b ? 0 : 1)});
-            if (i > 1 && j > 1 && a == lowered(right[j - 2]) && lowered(left[i - 2]) == b)
+            if (i > 1 && j > 1 && a == ascii::lowered(right[j - 2]) && ascii::lowered(left[i - 2]) == b)
                 row[j] = std::min(row[j], beforeLast[j - 2] + 1);
         }
         beforeLast.swap(last);

@@ -1,6 +1,7 @@
 #include "support/files.hpp"
 #include "support/generated_documents.hpp"
 #include "support/property.hpp"
+#include "support/read_as.hpp"
 
 #include <zupackage/authoring/check.hpp>
 #include <zupackage/package_info.hpp>
@@ -11,6 +12,8 @@
 #include <set>
 
 namespace zu::authoring {
+
+using test::readAs;
 
 namespace {
 
@@ -28,12 +31,6 @@ void expectWithin(const SourceRange& range, const SourceDocument& document)
     RC_ASSERT(range.bytes.end <= document.text().size());
     RC_ASSERT(range.begin == document.place(range.bytes.begin));
     RC_ASSERT(range.path.empty() || document.find(range.path) || document.findAttribute(range.path));
-}
-
-std::string readAs(const std::string& bytes)
-{
-    PackageInfo package;
-    return readManifest(bytes, package) ? package.saveToManifestContent() : "unreadable";
 }
 
 /// The document after all fixes that are safe, and after those that they uncover.

@@ -1,3 +1,5 @@
+#include "support/read_as.hpp"
+
 #include <zupackage/authoring/check.hpp>
 #include <zupackage/authoring/rule.hpp>
 #include <zupackage/package_info.hpp>
@@ -5,25 +7,14 @@
 #include <gmock/gmock.h>
 
 #include <map>
-#include <sstream>
 
 namespace zu::authoring {
 
+using test::readAs;
 using testing::HasSubstr;
 using testing::SizeIs;
 
 namespace {
-
-/// What the reader makes of it. The writer leaves out empty entries, and the dump services and executable files.
-std::string readAs(const std::string& bytes)
-{
-    PackageInfo package;
-    if (!readManifest(bytes, package))
-        return "unreadable";
-    std::ostringstream text;
-    text << package << package.saveToManifestContent();
-    return text.str();
-}
 
 enum class Outcome
 {

@@ -59,7 +59,7 @@ private:
     test::TemporaryFolder m_folder;
 };
 
-std::string nameOf(const testing::TestParamInfo<Rule>& info)
+std::string testNameOf(const testing::TestParamInfo<Rule>& info)
 {
     std::string name(info.param.id);
     std::replace(name.begin(), name.end(), '-', '_');
@@ -88,7 +88,7 @@ TEST_P(ExamplePackage, IsFixedAtOnce)
     EXPECT_EQ(applyFixes(fixed, check(fixed, options()).findings, true), fixed.text());
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, ExamplePackage, testing::ValuesIn(rules()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Each, ExamplePackage, testing::ValuesIn(rules()), testNameOf);
 
 TEST(Rules, AreDescribed)
 {

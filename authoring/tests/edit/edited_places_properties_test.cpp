@@ -19,13 +19,13 @@ namespace zu::authoring {
 namespace {
 
 /// What of a document stands for a part of its package, and how that part is changed.
-struct Place
+struct EditedPlace
 {
     SourceNode node;
     std::function<void(PackageInfo&)> change;
 };
 
-using Places = std::vector<Place>;
+using EditedPlaces = std::vector<EditedPlace>;
 
 std::vector<SourceNode> childrenNamed(SourceNode parent, std::string_view name)
 {
@@ -58,7 +58,7 @@ bool isAlone(SourceNode node, std::string_view attribute, const std::vector<Sour
 
 /// The texts of a list in which every child is one, whatever it is called.
 void appendNames(const std::vector<SourceNode>& sections,
-                 const std::function<void(PackageInfo&, const std::string&)>& set, Places& places)
+                 const std::function<void(PackageInfo&, const std::string&)>& set, EditedPlaces& places)
 {
     std::vector<SourceNode> all;
     for (const SourceNode section : sections) {
@@ -77,7 +77,7 @@ void appendNames(const std::vector<SourceNode>& sections,
 /// The entries of a list of the package, one for each of the elements.
 template <typename Entry>
 void appendEntries(const std::vector<SourceNode>& elements, std::string_view identity, const std::list<Entry>& entries,
-                   const std::function<void(PackageInfo&, std::size_t)>& change, Places& places)
+                   const std::function<void(PackageInfo&, std::size_t)>& change, EditedPlaces& places)
 {
     for (std::size_t i = 0; i < elements.size() && elements.size() == entries.size(); ++i) {
         if (isAlone(elements[i], identity, elements))
@@ -118,9 +118,9 @@ void changeOrRemoveBehavior(PackageInfo& package, std::size_t number)
         test::changeBehavior(*behavior);
 }
 
-Places placesIn(const SourceDocument& document, const PackageInfo& package)
+EditedPlaces placesIn(const SourceDocument& document, const PackageInfo& package)
 {
-    Places places;
+    EditedPlaces places;
     const std::vector<SourceNode> behaviors = elementsIn(document, "contents", "behaviorContent");
     appendEntries(behaviors, "path", package.behaviors(), changeOrRemoveBehavior, places);
     for (std::size_t i = 0; i < behaviors.size() && behaviors.size() == package.behaviors().size(); ++i) {
@@ -170,10 +170,10 @@ bool isChangedInItsLines(ManifestEditor& editor)
 {
     const SourceDocument before = editor.document();
     PackageInfo package = editor.package();
-    const Places places = placesIn(before, package);
+    const EditedPlaces places = placesIn(before, package);
     if (places.empty())
         return false;
-    const Place place = places[*rc::gen::inRange<std::size_t>(0, places.size())];
+    const EditedPlace place = places[*rc::gen::inRange<std::size_t>(0, places.size())];
     place.change(package);
     try {
         editor.update(package);

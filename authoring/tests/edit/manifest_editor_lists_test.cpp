@@ -1,25 +1,12 @@
-#include <zupackage/authoring/manifest_editor.hpp>
+#include "edit/edited.hpp"
+
 #include <zupackage/package_info.hpp>
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 namespace zu::authoring {
 
 namespace {
-
-using Change = std::function<void(PackageInfo&)>;
-
-/// The text after a change of the package that it reads as.
-std::string edited(const std::string& text, const Change& change)
-{
-    ManifestEditor editor(SourceDocument::parse(text));
-    PackageInfo package = editor.package();
-    change(package);
-    editor.update(package);
-    return editor.document().text();
-}
 
 const std::string k_names = "<p>\n"
                             "  <names>\n"

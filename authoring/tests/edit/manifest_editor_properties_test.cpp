@@ -20,7 +20,7 @@ namespace {
 
 // Making a document takes longer than editing it, so that each is edited often.
 constexpr int k_updatesEach = 20;
-constexpr int k_documents = 10'000 / k_updatesEach;
+constexpr int k_documents = test::k_inputs / k_updatesEach;
 
 std::string written(PackageInfo package) { return package.saveToManifestContent(); }
 
@@ -96,7 +96,7 @@ TEST(ManifestEditorProperties, AnUpdateToAnyPackageAndBackReadsAsBefore)
 
 TEST(ManifestEditorProperties, AnyDocumentThatIsReadCanBeEdited)
 {
-    test::checkProperty(10'000, [] {
+    test::checkProperty(test::k_inputs, [] {
         const SourceDocument document = SourceDocument::parse(test::anyDocument());
         // What entities of a document type stand for cannot be edited.
         if (!document.isWellFormed() || document.text().find("<!DOCTYPE") != std::string::npos)

@@ -1,3 +1,4 @@
+#include "edit/edited.hpp"
 #include "support/encodings.hpp"
 #include "support/files.hpp"
 
@@ -6,25 +7,11 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 namespace zu::authoring {
 
 namespace {
 
 ManifestEditor editorOf(const std::string& text) { return ManifestEditor(SourceDocument::parse(text)); }
-
-using Change = std::function<void(PackageInfo&)>;
-
-/// The text after a change of the package that it reads as.
-std::string edited(const std::string& text, const Change& change)
-{
-    ManifestEditor editor = editorOf(text);
-    PackageInfo package = editor.package();
-    change(package);
-    editor.update(package);
-    return editor.document().text();
-}
 
 std::string withBehavior(const std::string& content) { return "<p><contents>" + content + "</contents></p>"; }
 

@@ -14,14 +14,12 @@ using authoring::PackageJsonError;
 using authoring::Place;
 using test::checkProperty;
 using test::describe;
+using test::k_inputs;
 using test::packageFrom;
 using test::packages;
+using test::written;
 
 namespace {
-
-constexpr int k_inputs = 10'000;
-
-std::string written(const PackageInfo& package) { return PackageInfo(package).saveToManifestContent(); }
 
 PackageInfo emptyPackage() { return {}; }
 

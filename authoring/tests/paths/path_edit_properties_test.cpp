@@ -90,7 +90,7 @@ bool isSetAndRead(SourceDocument& document, const std::string& path, const std::
 
 TEST(PathEditProperties, WhatWasSetIsThereAndWhatStandsOutsideStays)
 {
-    test::checkProperty(10'000, [] {
+    test::checkProperty(test::k_inputs, [] {
         const SourceDocument document = SourceDocument::parse(test::wellFormedDocument());
         RC_PRE(document.isWellFormed());
         const ManifestPath path(somePath(document));
@@ -112,7 +112,7 @@ TEST(PathEditProperties, WhatWasSetIsThereAndWhatStandsOutsideStays)
 
 TEST(PathEditProperties, WhatWasAddedIsThereOnceMore)
 {
-    test::checkProperty(10'000, [] {
+    test::checkProperty(test::k_inputs, [] {
         const SourceDocument document = SourceDocument::parse(test::wellFormedDocument());
         RC_PRE(document.isWellFormed());
         const ManifestPath path("names/name");
@@ -131,7 +131,7 @@ TEST(PathEditProperties, WhatWasSetUnderTheGuardIsWhatThePackageSays)
 {
     constexpr int k_editsEach = 20;
     int refused = 0;
-    const int count = test::checkProperty(10'000 / k_editsEach, [&refused] {
+    const int count = test::checkProperty(test::k_inputs / k_editsEach, [&refused] {
         SourceDocument document = SourceDocument::parse(test::oddManifest(*test::packages(test::texts())));
         RC_PRE(document.isWellFormed());
         const SourceDocument written = writtenAsRead(document);

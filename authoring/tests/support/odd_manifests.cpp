@@ -1,5 +1,6 @@
 #include "support/odd_manifests.hpp"
 
+#include "support/choices.hpp"
 #include "support/encodings.hpp"
 #include "support/generated_packages.hpp"
 #include "support/well_formed_documents.hpp"
@@ -20,16 +21,7 @@ using authoring::SourceAttribute;
 using authoring::SourceDocument;
 using authoring::SourceNode;
 
-using Choices = std::vector<std::string>;
-
-int upTo(int most) { return *rc::gen::resize(rc::kNominalSize, rc::gen::inRange(0, most + 1)); }
-
 bool oneIn(int count) { return upTo(count - 1) == 0; }
-
-const std::string& oneOf(const Choices& choices)
-{
-    return choices[static_cast<std::size_t>(upTo(static_cast<int>(choices.size()) - 1))];
-}
 
 const Choices k_gaps = {"", "\n", "\n  ", "\r\n\t", "\r", " ", "\n\n    "};
 const Choices k_strange = {"<!-- c -->",  "<!---->",       "<?i d?>",  "<?name?>",       "<x y='1'>z<name/></x>",

@@ -1,5 +1,7 @@
 #include "support/well_formed_documents.hpp"
 
+#include "support/choices.hpp"
+
 #include <QtCore/QString>
 
 #include <rapidcheck.h>
@@ -8,15 +10,6 @@
 namespace zu::test {
 
 namespace {
-
-using Choices = std::vector<std::string>;
-
-int upTo(int most) { return *rc::gen::resize(rc::kNominalSize, rc::gen::inRange(0, most + 1)); }
-
-const std::string& oneOf(const Choices& choices)
-{
-    return choices[static_cast<std::size_t>(upTo(static_cast<int>(choices.size()) - 1))];
-}
 
 const Choices k_blanks = {" ", "  ", "\n", "\t", "\r\n", "\r"};
 const Choices k_noOrSomeBlanks = {"", "", "", " ", "\n\t", "\r"};
