@@ -24,7 +24,8 @@ endif()
 option(ZU_WERROR "Treat compiler warnings as errors" OFF)
 option(ZU_HEADERS_ALONE "Compile each public header alone" OFF)
 option(ZU_ABI "Describe types in the libraries that are ABI, for what compares binary interfaces" OFF)
-set(ZU_UNITY OFF CACHE STRING "Compile several sources together, in which targets that are UNITY")
+# No two sources of a target have the same name for different things.
+set(ZU_UNITY OFF CACHE STRING "Compile several sources together, those of tests or all (ON)")
 set_property(CACHE ZU_UNITY PROPERTY STRINGS OFF TESTS ON)
 
 # One strictness for every target of ours.
@@ -39,10 +40,13 @@ function(zu_compile_options target)
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
         -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wswitch-enum -Wundef
         $<$<BOOL:${ZU_WERROR}>:-Werror>)
+    if(ZU_UNITY STREQUAL "ON")
+        zu_compile_together(${target})
+    endif()
 endfunction()
 
 function(zu_compile_together target)
-    set_target_properties(${target} PROPERTIES UNITY_BUILD ON)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 16)
     # To GCC the included sources are headers, which should have no anonymous namespaces.
     target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 endfunction()
@@ -51,16 +55,12 @@ endfunction()
 # version, and the object library ${target}_objects behind it: its sources are compiled once, and tests of private
 # operations link the objects. It is known as zu::${EXPORT_NAME}, to pkg-config as ${NAME}, with what its headers need
 # there in REQUIRES.
-# UNITY: no two sources have the same name for different things, so that they can be compiled together.
 # ABI: programs link it that are not built with it.
 function(zu_add_library target)
-    cmake_parse_arguments(arg "ABI;UNITY" "NAME;DESCRIPTION;EXPORT_NAME;FOLDER;MACRO" "SOURCES;REQUIRES" ${ARGN})
+    cmake_parse_arguments(arg "ABI" "NAME;DESCRIPTION;EXPORT_NAME;FOLDER;MACRO" "SOURCES;REQUIRES" ${ARGN})
 
     add_library(${target}_objects OBJECT ${arg_SOURCES})
     zu_compile_options(${target}_objects)
-    if(arg_UNITY AND ZU_UNITY STREQUAL "ON")
-        zu_compile_together(${target}_objects)
-    endif()
     target_compile_options(${target}_objects PRIVATE $<$<AND:$<BOOL:${ZU_ABI}>,$<BOOL:${arg_ABI}>>:-g2>)
     set(generated ${CMAKE_CURRENT_BINARY_DIR}/generated)
     generate_export_header(${target}_objects BASE_NAME ${target}
@@ -152,6 +152,7 @@ function(zu_compile_headers_alone library folder)
     string(MAKE_C_IDENTIFIER ${folder}_headers target)
     add_library(${target} OBJECT ${sources})
     zu_compile_options(${target})
+    set_target_properties(${target} PROPERTIES UNITY_BUILD OFF)
     target_link_libraries(${target} PRIVATE ${library})
 endfunction()
 
@@ -159,17 +160,17 @@ endfunction()
 function(zu_test_compile_options target)
     zu_compile_options(${target})
     target_compile_options(${target} PRIVATE -fPIC $<$<NOT:$<CONFIG:Debug>>:-O0;-g1>)
+    if(ZU_UNITY STREQUAL "TESTS")
+        zu_compile_together(${target})
+    endif()
 endfunction()
 
 # A GoogleTest program whose cases CTest lists one by one and runs in a process each. THREADS: it has cases that start
-# threads, for ThreadSanitizer. UNITY: as for libraries.
+# threads, for ThreadSanitizer.
 function(zu_add_tests target)
-    cmake_parse_arguments(arg "THREADS;UNITY" "" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(arg "THREADS" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${target} ${arg_SOURCES})
     zu_test_compile_options(${target})
-    if(arg_UNITY AND NOT ZU_UNITY STREQUAL "OFF")
-        zu_compile_together(${target})
-    endif()
     target_link_libraries(${target} PRIVATE ${arg_LIBRARIES} GTest::gmock GTest::gtest_main)
     if(NOT TARGET zu_test_headers)
         file(CONFIGURE OUTPUT zu_test_headers.cpp CONTENT "")
