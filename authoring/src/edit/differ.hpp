@@ -29,6 +29,7 @@ struct Changes
 {
     Edits edits; ///< within what stays
     NodeSet removed;
+    NodeSet keptComments; ///< entries of a list: the reader takes every child for one
     std::vector<Addition> additions;
 };
 

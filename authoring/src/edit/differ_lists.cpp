@@ -172,8 +172,11 @@ SourceNode Differ::become(const Sides& sides, const Items& present, const Items&
         // What is no element cannot be edited into one.
         if (!node.isElement() && !match.isEqual && !readsAs(node, wanted[i].node, sides.entry))
             match = {};
-        else if (match.isKept)
-            kept.insert(match.present);
+        if (!match.isKept)
+            continue;
+        kept.insert(match.present);
+        if (node.kind() == NodeKind::Comment)
+            changes.keptComments.insert(node.index());
     }
     for (std::size_t i = 0; i < present.size(); ++i)
         if (kept.count(i) == 0)

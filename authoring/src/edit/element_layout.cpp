@@ -58,7 +58,7 @@ ByteRange bodyOf(const SourceDocument& document, SourceNode node)
 }
 
 /// Behind the comments that stand in the line behind the node and belong to it.
-std::size_t endOfRemarks(const SourceDocument& document, SourceNode node, const NodeSet& removed)
+std::size_t endOfRemarks(const SourceDocument& document, SourceNode node, const NodeSet& noRemarks)
 {
     const std::size_t begin = bodyOf(document, node).end;
     std::size_t end = begin;
@@ -66,7 +66,7 @@ std::size_t endOfRemarks(const SourceDocument& document, SourceNode node, const 
         const std::size_t lines = linesIn(document.source(next.range()));
         if (isWhite(next) && lines > 0)
             return end;
-        if (!isWhite(next) && (next.kind() != NodeKind::Comment || lines > 0 || removed.count(next.index()) > 0))
+        if (!isWhite(next) && (next.kind() != NodeKind::Comment || lines > 0 || noRemarks.count(next.index()) > 0))
             return begin;
         if (!isWhite(next))
             end = next.range().end;
@@ -75,7 +75,7 @@ std::size_t endOfRemarks(const SourceDocument& document, SourceNode node, const 
 }
 
 /// Before the comments that stand in the lines above the node, without an empty line between.
-std::size_t beginOfRemarks(const Layout& layout, SourceNode node, const NodeSet& removed)
+std::size_t beginOfRemarks(const Layout& layout, SourceNode node, const NodeSet& noRemarks)
 {
     const std::size_t begin = bodyOf(layout.document(), node).begin;
     std::size_t remark = begin; // of the comments that end right above the node
@@ -85,7 +85,7 @@ std::size_t beginOfRemarks(const Layout& layout, SourceNode node, const NodeSet&
             return isJoined ? remark : begin;
         if (isWhite(sibling)) {
             isJoined = isJoined && linesIn(layout.document().source(sibling.range())) == 1;
-        } else if (sibling.kind() != NodeKind::Comment || removed.count(sibling.index()) > 0) {
+        } else if (sibling.kind() != NodeKind::Comment || noRemarks.count(sibling.index()) > 0) {
             isJoined = false;
         } else if (!isJoined) {
             isJoined = layout.indentation(sibling) == layout.indentation(node);
@@ -141,10 +141,10 @@ std::string Layout::render(SourceNode element, const std::optional<std::string>&
     return result += m_target.source(element.endTagRange());
 }
 
-TextEdit insertionAfter(const Layout& layout, SourceNode node, const NodeSet& removed, const std::string& rendered)
+TextEdit insertionAfter(const Layout& layout, SourceNode node, const NodeSet& noRemarks, const std::string& rendered)
 {
     if (const std::optional<std::string> indentation = layout.indentation(node)) {
-        const std::size_t end = endOfRemarks(layout.document(), node, removed);
+        const std::size_t end = endOfRemarks(layout.document(), node, noRemarks);
         return {{end, end}, layout.newLine(indentation) + rendered};
     }
     const SourceNode gap = previousSibling(node);
@@ -153,11 +153,11 @@ TextEdit insertionAfter(const Layout& layout, SourceNode node, const NodeSet& re
     return {{end, end}, std::string(blanks) + rendered};
 }
 
-TextEdit insertionBefore(const Layout& layout, SourceNode node, const NodeSet& removed, const std::string& rendered)
+TextEdit insertionBefore(const Layout& layout, SourceNode node, const NodeSet& noRemarks, const std::string& rendered)
 {
     const std::optional<std::string> indentation = layout.indentation(node);
     const std::size_t begin =
-        indentation ? beginOfRemarks(layout, node, removed) : bodyOf(layout.document(), node).begin;
+        indentation ? beginOfRemarks(layout, node, noRemarks) : bodyOf(layout.document(), node).begin;
     return {{begin, begin}, rendered + layout.newLine(indentation)};
 }
 

@@ -40,12 +40,13 @@ private:
     std::string m_unit;
 };
 
-/// The numbers of nodes that go.
+/// The numbers of nodes.
 using NodeSet = std::unordered_set<std::size_t>;
 
-/// What is put beside a node, with what parts the two.
-TextEdit insertionAfter(const Layout& layout, SourceNode node, const NodeSet& removed, const std::string& rendered);
-TextEdit insertionBefore(const Layout& layout, SourceNode node, const NodeSet& removed, const std::string& rendered);
+/// What is put beside a node and the remarks on it, with what parts the two.
+/// @param noRemarks the comments that are no remarks on it, wherever they stand.
+TextEdit insertionAfter(const Layout& layout, SourceNode node, const NodeSet& noRemarks, const std::string& rendered);
+TextEdit insertionBefore(const Layout& layout, SourceNode node, const NodeSet& noRemarks, const std::string& rendered);
 
 /// Takes a node away, with its line when nothing else stands there; of a loose text all but the white space around it.
 TextEdit removalOf(const SourceDocument& document, SourceNode node);

@@ -74,6 +74,10 @@ void placeAlone(const Placing& placing, const std::vector<const Addition*>& addi
 
 void place(const Placing& placing, Edits& edits)
 {
+    // Comments that go are remarks on nothing, nor are those that are entries themselves: what is new has its place
+    // among these.
+    NodeSet noRemarks = placing.changes.removed;
+    noRemarks.insert(placing.changes.keptComments.begin(), placing.changes.keptComments.end());
     std::vector<const Addition*> alone;
     for (const Addition& addition : placing.changes.additions) {
         const Neighbour neighbour = neighbourOf(placing, addition);
@@ -83,7 +87,7 @@ void place(const Placing& placing, Edits& edits)
         }
         const std::string source = placing.source(addition, placing.layout.indentation(neighbour.node));
         const auto insertion = neighbour.isBefore ? insertionAfter : insertionBefore;
-        edits.push_back(insertion(placing.layout, neighbour.node, placing.changes.removed, source));
+        edits.push_back(insertion(placing.layout, neighbour.node, noRemarks, source));
     }
     if (!alone.empty())
         placeAlone(placing, alone, edits);

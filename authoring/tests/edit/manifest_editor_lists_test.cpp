@@ -173,6 +173,18 @@ TEST(ManifestEditorLists, ACommentThatIsReadAsALanguageGoesWithIt)
               "<p><supportedLanguages><language>en</language></supportedLanguages></p>");
 }
 
+TEST(ManifestEditorLists, ANewLanguageStandsBeforeACommentThatIsReadAsALaterOne)
+{
+    const std::string languages = "<p><supportedLanguages>\n<language>en</language> <!-- c -->\n"
+                                  "</supportedLanguages></p>";
+    const auto change = [](PackageInfo& p) {
+        p.clearSupportedLanguages();
+        for (const char* const language : {"en", "fr", ""})
+            p.addSupportedLanguage(language);
+    };
+    EXPECT_EQ(edited(languages, change), with(languages, "</language>", "</language>\n<language>fr</language>"));
+}
+
 TEST(ManifestEditorLists, TheFirstOfRepeatedVariablesIsEdited)
 {
     const std::string service = "<p><services><service name='s'><envVar name='A' value='1'/><envVar name='A' "
