@@ -1,6 +1,7 @@
 #pragma once
 
 #include <zupackage/authoring/manifest_editor.hpp>
+#include <zupackage/package_info.hpp>
 
 #include <functional>
 #include <string>
