@@ -27,6 +27,9 @@ option(ZU_ABI "Describe types in the libraries that are ABI, for what compares b
 # No two sources of a target have the same name for different things.
 set(ZU_UNITY OFF CACHE STRING "Compile several sources together, those of tests or all (ON)")
 set_property(CACHE ZU_UNITY PROPERTY STRINGS OFF TESTS ON)
+if(NOT ZU_UNITY MATCHES "^(OFF|TESTS|ON)$")
+    message(FATAL_ERROR "ZU_UNITY is OFF, TESTS or ON, not \"${ZU_UNITY}\"")
+endif()
 
 # One strictness for every target of ours.
 function(zu_compile_options target)
