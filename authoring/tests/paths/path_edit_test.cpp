@@ -1,5 +1,6 @@
 #include "support/encodings.hpp"
 #include "support/files.hpp"
+#include "support/texts.hpp"
 
 #include <zupackage/authoring/path_edit.hpp>
 #include <zupackage/package_info.hpp>
@@ -8,6 +9,8 @@
 #include <gtest/gtest.h>
 
 namespace zu::authoring {
+
+using test::replaced;
 
 namespace {
 
@@ -49,20 +52,15 @@ const std::string k_manifest = R"(<?xml version='1.0'?>
   <contents/>
 </package>)";
 
-std::string replaced(const std::string& old, const std::string& now)
-{
-    std::string text = k_manifest;
-    return text.replace(text.find(old), old.size(), now);
-}
-
 } // namespace
 
 TEST(PathEdit, SettingATextLeavesEverythingElse)
 {
-    EXPECT_EQ(edit(k_manifest, {setting("@version", "2.0")}), replaced("1.0\">", "2.0\">"));
-    EXPECT_EQ(edit(k_manifest, {setting("@uuid", "it's \"b\"")}), replaced("'a'", "'it&apos;s \"b\"'"));
-    EXPECT_EQ(edit(k_manifest, {setting("names/name[@lang='fr']", "<Une>")}), replaced(">Un<", ">&lt;Une&gt;<"));
-    EXPECT_EQ(edit(k_manifest, {setting("names/name[1]/@lang", "en_GB")}), replaced("\"en\"", "\"en_GB\""));
+    EXPECT_EQ(edit(k_manifest, {setting("@version", "2.0")}), replaced(k_manifest, "1.0\">", "2.0\">"));
+    EXPECT_EQ(edit(k_manifest, {setting("@uuid", "it's \"b\"")}), replaced(k_manifest, "'a'", "'it&apos;s \"b\"'"));
+    EXPECT_EQ(edit(k_manifest, {setting("names/name[@lang='fr']", "<Une>")}),
+              replaced(k_manifest, ">Un<", ">&lt;Une&gt;<"));
+    EXPECT_EQ(edit(k_manifest, {setting("names/name[1]/@lang", "en_GB")}), replaced(k_manifest, "\"en\"", "\"en_GB\""));
 }
 
 TEST(PathEdit, ATextThatIsThereAlreadyChangesNoByte)
@@ -97,14 +95,16 @@ TEST(PathEdit, CDataSectionsStayAndCommentsInTextsToo)
 TEST(PathEdit, WhatIsMissingIsMadeWhereManifestsHaveIt)
 {
     EXPECT_EQ(edit(k_manifest, {setting("names/name[@lang='de']", "Eins")}),
-              replaced(">Un</name>", ">Un</name>\n    <name lang=\"de\">Eins</name>"));
+              replaced(k_manifest, ">Un</name>", ">Un</name>\n    <name lang=\"de\">Eins</name>"));
     EXPECT_EQ(edit(k_manifest, {setting("descriptions/description[@lang='en']", "All")}),
-              replaced("</names>\n", "</names>\n  <descriptions>\n    <description lang='en'>All</description>\n"
-                                     "  </descriptions>\n"));
+              replaced(k_manifest, "</names>\n",
+                       "</names>\n  <descriptions>\n    <description lang='en'>All</description>\n"
+                       "  </descriptions>\n"));
     EXPECT_EQ(edit(k_manifest, {setting("contents/behaviorContent[@path='b']/nature", "solitary")}),
-              replaced("<contents/>", "<contents>\n    <behaviorContent path='b'>\n      <nature>solitary</nature>\n"
-                                      "    </behaviorContent>\n  </contents>"));
-    EXPECT_EQ(edit(k_manifest, {setting("@author", "I")}), replaced("\"1.0\">", "\"1.0\" author='I'>"));
+              replaced(k_manifest, "<contents/>",
+                       "<contents>\n    <behaviorContent path='b'>\n      <nature>solitary</nature>\n"
+                       "    </behaviorContent>\n  </contents>"));
+    EXPECT_EQ(edit(k_manifest, {setting("@author", "I")}), replaced(k_manifest, "\"1.0\">", "\"1.0\" author='I'>"));
 }
 
 TEST(PathEdit, WhatComesFirstStandsFirst)
@@ -200,7 +200,8 @@ TEST(PathEdit, ContradictionsAreRefused)
 
 TEST(PathEdit, RemovingTakesTheLineOfAnElementAndTheBlankBeforeAnAttribute)
 {
-    EXPECT_EQ(edit(k_manifest, {removing("names/name[@lang='fr']")}), replaced("    <name lang='fr'>Un</name>\n", ""));
+    EXPECT_EQ(edit(k_manifest, {removing("names/name[@lang='fr']")}),
+              replaced(k_manifest, "    <name lang='fr'>Un</name>\n", ""));
     EXPECT_EQ(edit(k_manifest + "\n", {removing("names")}).find("names"), std::string::npos);
     EXPECT_EQ(edit("<p author='a' channel='b'/>", {removing("@author"), removing("@channel")}), "<p/>");
     EXPECT_EQ(edit("<p><tags><a/> <b/></tags></p>", {removing("tags/*")}), "<p><tags> </tags></p>");
