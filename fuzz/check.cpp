@@ -6,27 +6,31 @@
 #include <zupackage/package_info.hpp>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
 using zu::authoring::Diagnostic;
 using zu::authoring::SourceDocument;
 
-constexpr const char* k_unreadable = "unreadable";
-
-std::string readAs(const std::string& bytes)
+/// The package that is read, as it is written; nothing when the document is refused.
+std::optional<std::string> readAs(const std::string& bytes)
 {
     zu::PackageInfo package;
-    return zu::readManifest(bytes, package) ? package.saveToManifestContent() : k_unreadable;
+    return zu::readManifest(bytes, package) ? std::optional(package.saveToManifestContent()) : std::nullopt;
+}
+
+bool endsWith(std::string_view text, std::string_view end)
+{
+    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
 }
 
 /// Whether the finding tells rightly what the reader makes of the document.
-bool tellsTheTruth(const Diagnostic& finding, const std::string& bytes)
+bool tellsTheTruth(const Diagnostic& finding, bool isRead)
 {
-    if (finding.rule != "not-well-formed")
-        return true;
-    const bool saysRefused = finding.message.find("; the robot refuses the whole manifest") != std::string::npos;
-    return saysRefused == (readAs(bytes) == k_unreadable);
+    return finding.rule != "not-well-formed" ||
+           endsWith(finding.message, isRead ? "; the robot overlooks it and reads the manifest all the same"
+                                            : "; the robot refuses the whole manifest");
 }
 
 /// These make of the package what was meant.
@@ -41,7 +45,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     constexpr int k_mostRounds = 20;
     const std::string bytes(fuzz::textOf(data, size));
+    const std::optional<std::string> reading = readAs(bytes);
     std::string text = bytes;
+    std::optional<std::string> fixedReading = reading;
     bool isChanged = false;
     for (int round = 0;; ++round) {
         fuzz::require(round < k_mostRounds, "fixing does not come to an end: " + text);
@@ -50,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         fuzz::require(document.isWellFormed() || !findings.empty(), "an error is not found: " + text);
         for (const Diagnostic& finding : findings) {
             fuzz::require(finding.range.bytes.end <= text.size(), finding.rule + " lies outside: " + text);
-            fuzz::require(tellsTheTruth(finding, text), finding.message + ": " + text);
+            fuzz::require(tellsTheTruth(finding, fixedReading.has_value()), finding.message + ": " + text);
             fuzz::require(!finding.fix || applyEdits(document, finding.fix->edits), finding.rule + " fixes: " + text);
         }
         isChanged = isChanged || std::any_of(findings.begin(), findings.end(), &changesThePackage);
@@ -58,7 +64,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (fixed == text)
             break;
         text = std::move(fixed);
+        fixedReading = readAs(text);
     }
-    fuzz::require(isChanged || text == bytes || readAs(text) == readAs(bytes), "reads otherwise: " + bytes + text);
+    fuzz::require(isChanged || fixedReading == reading, "reads otherwise: " + bytes + text);
     return 0;
 }

@@ -14,8 +14,28 @@ namespace {
 using namespace zu::authoring;
 using fuzz::require;
 
+/// Whether readers of manifests refuse what is well-formed, as they do beyond their limits.
+bool isRefusedByReaders(const SourceDocument& document)
+{
+    zu::PackageInfo package;
+    return !zu::readManifest(document.text(), package);
+}
+
+/// Whether there may be something that no edit reaches: what entities of a document type stand for, and characters that
+/// the encoding has not.
+bool mayBeBeyondEditing(const SourceDocument& document)
+{
+    const std::string_view encoding = document.encoding();
+    bool hasDocumentType = false;
+    for (std::size_t i = 0; i < document.nodeCount(); ++i)
+        hasDocumentType = hasDocumentType || document.node(i).kind() == NodeKind::DocumentType;
+    return hasDocumentType || encoding.substr(0, 3) != "UTF";
+}
+
 void update(const SourceDocument& document, const std::string& other)
 {
+    if (isRefusedByReaders(document))
+        return;
     ManifestEditor editor(document);
     editor.update(editor.package());
     require(editor.document().text() == document.text(), "an update of nothing changes something");
@@ -24,7 +44,8 @@ void update(const SourceDocument& document, const std::string& other)
         return;
     try {
         editor.update(target);
-    } catch (const ManifestEditError&) {
+    } catch (const ManifestEditError& error) {
+        require(mayBeBeyondEditing(document), error.what());
         require(editor.document().text() == document.text(), "an update that fails changes something");
         return;
     }
@@ -64,11 +85,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const SourceDocument document = SourceDocument::parse(parts[0]);
     if (!document.isWellFormed())
         return 0;
-    try {
-        update(document, parts[1]);
-    } catch (const ManifestEditError&) {
-        // What entities of a document type stand for cannot be edited.
-    }
+    update(document, parts[1]);
     try {
         edit(document, ManifestPath(parts[2]));
     } catch (const PathSyntaxError&) {
