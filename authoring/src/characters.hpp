@@ -28,7 +28,8 @@ inline bool isOf(std::uint8_t classes, char byte)
 
 constexpr std::size_t k_byteOrderMarkSize = 3;
 constexpr std::string_view k_byteOrderMark = "\xEF\xBB\xBF";
-constexpr std::string_view k_replacementCharacter = "\xEF\xBF\xBD";
+constexpr char32_t k_replacementCodePoint = 0xFFFD;
+constexpr std::string_view k_replacementCharacter = "\xEF\xBF\xBD"; ///< the same in UTF-8
 
 struct Character
 {

@@ -14,8 +14,6 @@ namespace zupackage::authoring {
 
 namespace {
 
-constexpr char32_t k_replacement = 0xFFFD;
-
 bool isSurrogate(char32_t c) { return c >= 0xD800 && c <= 0xDFFF; }
 
 /// Takes the characters of a document one after the other.
@@ -86,7 +84,7 @@ public:
                 // When bytes that mean nothing are noticed at the next character, that one takes the last byte.
                 const auto behind = static_cast<std::size_t>(codePoints.size() - 1 - i);
                 const std::size_t bytes = left > behind ? left - behind : std::min<std::size_t>(left, 1);
-                if (codePoints[i] == k_replacement || isSurrogate(codePoints[i]))
+                if (codePoints[i] == k_replacementCodePoint || isSurrogate(codePoints[i]))
                     addInvalid(bytes);
                 else
                     add(codePoints[i], bytes);
@@ -124,7 +122,7 @@ private:
     void addInvalid(std::size_t bytes)
     {
         const std::size_t begin = m_text.utf8.size();
-        add(k_replacement, bytes);
+        add(k_replacementCodePoint, bytes);
         const std::size_t end = m_text.utf8.size();
         if (!m_text.invalid.empty() && m_text.invalid.back().end == begin)
             m_text.invalid.back().end = static_cast<std::uint32_t>(end);

@@ -17,7 +17,6 @@ std::size_t afterLineEnd(std::size_t at, std::string_view source)
 
 void appendReference(const Reference& reference, std::string_view source, std::string& value)
 {
-    constexpr char32_t k_replacement = 0xFFFD;
     switch (reference.kind) {
     case ReferenceKind::Broken:
     case ReferenceKind::Entity:
@@ -27,7 +26,7 @@ void appendReference(const Reference& reference, std::string_view source, std::s
         appendUtf8(reference.codePoint, value);
         break;
     case ReferenceKind::Forbidden:
-        appendUtf8(k_replacement, value);
+        value += k_replacementCharacter;
         break;
     }
 }

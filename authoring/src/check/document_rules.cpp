@@ -18,8 +18,6 @@ using zu::authoring::NodeKind;
 using zu::authoring::Severity;
 using zu::authoring::SyntaxError;
 
-constexpr char32_t k_lostCodePoint = 0xFFFD;
-
 /// What robots do with a document that is not well-formed.
 std::string leniencyTo(const SourceDocument& document)
 {
@@ -64,7 +62,8 @@ bool hasReplacementCharacter(std::string_view source)
         return true;
     for (std::size_t at = source.find('&'); at != std::string_view::npos; at = source.find('&', at + 1)) {
         const authoring::Reference reference = authoring::referenceAt(at, source);
-        if (reference.kind == authoring::ReferenceKind::Character && reference.codePoint == k_lostCodePoint)
+        if (reference.kind == authoring::ReferenceKind::Character &&
+            reference.codePoint == authoring::k_replacementCodePoint)
             return true;
     }
     return false;
