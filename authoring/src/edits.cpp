@@ -2,6 +2,9 @@
 
 #include "characters.hpp"
 #include "source_tree.hpp"
+#include "white_space.hpp"
+
+#include <algorithm>
 
 namespace zupackage::authoring {
 
@@ -89,5 +92,36 @@ std::vector<TextEdit> renaming(SourceNode element, std::string_view name)
 std::string escapedText(std::string_view text) { return escaped(text, '\0'); }
 
 std::string escapedValue(std::string_view value, char quote) { return escaped(value, quote); }
+
+std::string readableText(std::string_view text, bool hasEveryCharacter)
+{
+    const bool wouldBeDropped = !text.empty() && isBlank(text);
+    return wouldBeDropped && fitsSection(text, hasEveryCharacter) ? cdataSection(text) : escapedText(text);
+}
+
+bool fitsSection(std::string_view text, bool hasEveryCharacter)
+{
+    return text.find("]]>") == std::string_view::npos &&
+           (hasEveryCharacter ||
+            std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; }));
+}
+
+std::string cdataSection(std::string_view text) { return "<![CDATA[" + std::string(text) + "]]>"; }
+
+bool hasEveryCharacter(const SourceDocument& document)
+{
+    switch (SourceTreeAccess::tree(document).encoding.form) {
+    case EncodingForm::Utf8:
+    case EncodingForm::Utf16BigEndian:
+    case EncodingForm::Utf16LittleEndian:
+    case EncodingForm::Utf32BigEndian:
+    case EncodingForm::Utf32LittleEndian:
+        return true;
+    case EncodingForm::Latin1:
+    case EncodingForm::OfCodec:
+        return false;
+    }
+    return false;
+}
 
 } // namespace zupackage::authoring

@@ -26,4 +26,18 @@ std::vector<zu::authoring::TextEdit> renaming(zu::authoring::SourceNode element,
 std::string escapedText(std::string_view text);
 std::string escapedValue(std::string_view value, char quote);
 
+/// The text between tags such that the package library's reader, which drops loose white space, takes it: white space
+/// alone in a CDATA section, where the encoding has it.
+/// @param hasEveryCharacter whether the document's encoding does.
+std::string readableText(std::string_view text, bool hasEveryCharacter);
+
+/// Whether a text can stand in one CDATA section, which has no references.
+bool fitsSection(std::string_view text, bool hasEveryCharacter);
+
+/// The text in a CDATA section, which it must fit.
+std::string cdataSection(std::string_view text);
+
+/// Whether the document's encoding has every character; in others some take references.
+bool hasEveryCharacter(const zu::authoring::SourceDocument& document);
+
 } // namespace zupackage::authoring

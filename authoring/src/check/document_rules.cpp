@@ -106,7 +106,7 @@ void findWideReferences(const Checked& checked, Findings& findings)
                                            inQuotes(reference.character));
         finding.attribute = reference.attribute;
         // Other encodings may not have the character, so that a reference would take its place again.
-        if (checked.document.encoding().rfind("UTF-", 0) == 0)
+        if (authoring::hasEveryCharacter(checked.document))
             finding.safeFix("write the character itself", {{reference.range, reference.character}});
     }
 }

@@ -117,11 +117,11 @@ std::string Layout::newLine(const std::optional<std::string>& indentation) const
 std::string Layout::text(SourceNode node) const
 {
     // A section has no references for characters that the encoding does not have.
-    const bool hasSections = m_document.encoding().compare(0, 3, "UTF") == 0;
+    const bool hasSections = authoring::hasEveryCharacter(m_document);
     if (node.kind() == NodeKind::CData && !hasSections)
         return authoring::escapedText(m_target.source(node.contentRange()));
     if (isWhite(node) && hasSections)
-        return "<![CDATA[" + std::string(node.value()) + "]]>";
+        return authoring::cdataSection(node.value());
     return std::string(m_target.source(node.range()));
 }
 

@@ -9,7 +9,9 @@
 
 namespace zupackage::edit {
 
-using authoring::EncodingForm;
+using authoring::fitsSection;
+using authoring::hasEveryCharacter;
+using authoring::readableText;
 using zu::authoring::NodeKind;
 using zu::authoring::SourceTree;
 using zu::authoring::SourceTreeAccess;
@@ -56,30 +58,6 @@ void replace(const SourceDocument& document, ByteRange range, Place place, char 
                      sourceIn(place, middle, quote)});
 }
 
-bool hasEveryCharacter(const SourceDocument& document)
-{
-    switch (SourceTreeAccess::tree(document).encoding.form) {
-    case EncodingForm::Utf8:
-    case EncodingForm::Utf16BigEndian:
-    case EncodingForm::Utf16LittleEndian:
-    case EncodingForm::Utf32BigEndian:
-    case EncodingForm::Utf32LittleEndian:
-        return true;
-    case EncodingForm::Latin1:
-    case EncodingForm::OfCodec:
-        return false;
-    }
-    return false;
-}
-
-/// Whether a text can stand in a CDATA section, which has no references, in one piece.
-bool fitsSection(std::string_view text, const SourceDocument& document)
-{
-    return text.find("]]>") == std::string_view::npos &&
-           (hasEveryCharacter(document) ||
-            std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; }));
-}
-
 /// All texts within the element, at any depth; loose white space that the reader drops alone is `blank`.
 struct Texts
 {
@@ -97,14 +75,6 @@ void collectTexts(SourceNode element, Texts& texts)
     }
 }
 
-/// A source that says the text wherever it stands.
-std::string anySource(std::string_view text, const SourceDocument& document)
-{
-    // White space alone is dropped unless it stands in a section.
-    return isBlank(text) && !text.empty() && fitsSection(text, document) ? "<![CDATA[" + std::string(text) + "]]>"
-                                                                         : authoring::escapedText(text);
-}
-
 /// All texts go but one, which becomes the text.
 void setWhole(const SourceDocument& document, SourceNode element, const Texts& texts, std::string_view text,
               Edits& edits)
@@ -112,8 +82,8 @@ void setWhole(const SourceDocument& document, SourceNode element, const Texts& t
     const auto place = std::find_if(texts.speaking.begin(), texts.speaking.end(),
                                     [&](SourceNode node) { return node.parent() == element; });
     const std::size_t content = element.contentRange().begin;
-    edits.push_back(
-        {place == texts.speaking.end() ? ByteRange{content, content} : place->range(), anySource(text, document)});
+    edits.push_back({place == texts.speaking.end() ? ByteRange{content, content} : place->range(),
+                     readableText(text, hasEveryCharacter(document))});
     for (const std::vector<SourceNode>* const nodes : {&texts.speaking, &texts.blank})
         for (const SourceNode node : *nodes)
             if (place == texts.speaking.end() || node != *place)
@@ -130,7 +100,7 @@ void setValue(const SourceDocument& document, SourceAttribute attribute, std::st
 void setText(const SourceDocument& document, SourceNode element, std::string_view text, Edits& edits)
 {
     if (element.isEmptyTag()) {
-        fill(document, element, anySource(text, document), edits);
+        fill(document, element, readableText(text, hasEveryCharacter(document)), edits);
         return;
     }
     Texts texts;
@@ -141,7 +111,7 @@ void setText(const SourceDocument& document, SourceNode element, std::string_vie
             replace(document, node.range(), Place::Text, '\0', text, edits);
             return;
         }
-        if (node.kind() == NodeKind::CData && fitsSection(text, document)) {
+        if (node.kind() == NodeKind::CData && fitsSection(text, hasEveryCharacter(document))) {
             replace(document, node.contentRange(), Place::CData, '\0', text, edits);
             return;
         }

@@ -1,7 +1,6 @@
 #include "package/package_element.hpp"
 
 #include "edits.hpp"
-#include "white_space.hpp"
 
 #include <QtCore/QXmlStreamReader>
 
@@ -42,13 +41,6 @@ PackageElement elementFrom(QXmlStreamReader& reader, const ElementEntry& entry)
     return element;
 }
 
-/// The text such that the package library's reader, which drops texts of white space alone, reads it.
-std::string readableText(const std::string& text)
-{
-    const bool wouldBeDropped = !text.empty() && isBlank(text);
-    return wouldBeDropped ? "<![CDATA[" + text + "]]>" : escapedText(text);
-}
-
 void appendMarkup(const PackageElement& element, std::size_t level, std::string& markup)
 {
     const std::string indentation(2 * level, ' ');
@@ -63,7 +55,7 @@ void appendMarkup(const PackageElement& element, std::size_t level, std::string&
         markup += "/>";
         return;
     }
-    markup += ">" + readableText(element.text);
+    markup += ">" + readableText(element.text, true);
     for (const PackageElement& child : element.children) {
         markup += "\n";
         appendMarkup(child, level + 1, markup);

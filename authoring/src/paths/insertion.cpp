@@ -210,7 +210,7 @@ ElementLayout layoutAt(const SourceDocument& document, SourceNode element)
             break;
         }
     }
-    layout.isUnicode = document.encoding().compare(0, 3, "UTF") == 0;
+    layout.hasEveryCharacter = hasEveryCharacter(document);
     return layout;
 }
 

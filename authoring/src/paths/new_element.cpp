@@ -1,7 +1,6 @@
 #include "paths/new_element.hpp"
 
 #include "check/wording.hpp"
-#include "edit/reading.hpp"
 #include "edits.hpp"
 #include "paths/path_rules.hpp"
 
@@ -77,11 +76,6 @@ NewElement ordered(NewElement element, const ElementEntry& entry)
         element.children.begin(), element.children.end(),
         [&](const NewElement& left, const NewElement& right) { return childRank(left) < childRank(right); });
     return element;
-}
-
-bool isAscii(std::string_view text)
-{
-    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
 } // namespace
@@ -209,11 +203,10 @@ std::string written(const NewElement& element, const ElementEntry* entry, const 
 
 std::string textSource(std::string_view text, bool asSection, const ElementLayout& layout)
 {
-    const bool isBlank = !text.empty() && edit::isBlank(text);
     // Strict parsers read a carriage return as a line feed unless a reference says it, which none does in a section.
-    const bool fits = text.find("]]>") == std::string_view::npos &&
-                      (isBlank || text.find('\r') == std::string_view::npos) && (layout.isUnicode || isAscii(text));
-    return fits && (isBlank || asSection) ? "<![CDATA[" + std::string(text) + "]]>" : escapedText(text);
+    const bool isSection =
+        asSection && text.find('\r') == std::string_view::npos && fitsSection(text, layout.hasEveryCharacter);
+    return isSection ? cdataSection(text) : readableText(text, layout.hasEveryCharacter);
 }
 
 } // namespace zupackage::authoring

@@ -52,8 +52,8 @@ struct ElementLayout
     std::string indentation; ///< of the element itself; its first line has it already
     std::string step;        ///< by which children are indented more
     char quote = '"';
-    bool isInOneLine = false; ///< nothing stands between tags but texts
-    bool isUnicode = true;    ///< CDATA sections can hold every character
+    bool isInOneLine = false;      ///< nothing stands between tags but texts
+    bool hasEveryCharacter = true; ///< the document's encoding does
 };
 
 /// The element as it is to stand in a document, parts in the order of the vocabulary.
