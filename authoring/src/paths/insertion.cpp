@@ -1,6 +1,7 @@
 #include "paths/insertion.hpp"
 
 #include "characters.hpp"
+#include "edit/reading.hpp"
 #include "edits.hpp"
 #include "layout.hpp"
 #include "paths/vocabulary_of_nodes.hpp"
@@ -178,11 +179,6 @@ std::string spaceBeforeAttributes(const SourceDocument& document, SourceNode ele
     return std::string(document.source({element.nameRange().end, element.attributes()[0].range().begin}));
 }
 
-bool isTextual(SourceNode node)
-{
-    return node.kind() == NodeKind::Text || node.kind() == NodeKind::CData || node.kind() == NodeKind::EntityReference;
-}
-
 /// The one of an element's texts that another takes the place of; null when it has none.
 SourceNode principalText(const SourceDocument& document, SourceNode element)
 {
@@ -190,7 +186,7 @@ SourceNode principalText(const SourceDocument& document, SourceNode element)
     for (const SourceNode child : element.children()) {
         if (child.kind() == NodeKind::CData)
             return child;
-        if (isTextual(child) && (!result || isBlankText(document, result)))
+        if (edit::isTextual(child.kind()) && (!result || isBlankText(document, result)))
             result = child;
     }
     return result;
@@ -235,18 +231,18 @@ std::vector<TextEdit> textReplacement(const SourceDocument& document, SourceNode
                                       bool dropsElements)
 {
     const ElementLayout layout = layoutAt(document, element);
-    const std::string plain = textSource(text, false, layout);
     const SourceNode principal = principalText(document, element);
     if (!principal) {
         const std::size_t end = element.contentRange().end;
         const bool replacesAll = dropsElements && !element.isEmptyTag();
-        return {contentEdit(document, element, replacesAll ? element.contentRange() : ByteRange{end, end}, plain)};
+        return {contentEdit(document, element, replacesAll ? element.contentRange() : ByteRange{end, end},
+                            textSource(text, false, layout))};
     }
     std::vector<TextEdit> edits;
     for (const SourceNode child : element.children()) {
         if (child == principal) {
             edits.push_back({child.range(), textSource(text, child.kind() == NodeKind::CData, layout)});
-        } else if (isTextual(child) || (child.isElement() && dropsElements)) {
+        } else if (edit::isTextual(child.kind()) || (child.isElement() && dropsElements)) {
             edits.push_back({child.range(), {}});
         }
     }
