@@ -31,15 +31,6 @@ const std::vector<SourceNode>& Outline::elements(std::string_view path) const
     return m_elementsOf[Vocabulary::manifest().find(path)->index];
 }
 
-SourceAttribute plainAttribute(SourceNode element, std::string_view name)
-{
-    for (const SourceAttribute attribute : element.attributes()) {
-        if (attribute.name() == name)
-            return attribute;
-    }
-    return {};
-}
-
 std::string_view plainValue(SourceNode element, std::string_view name) { return plainAttribute(element, name).value(); }
 
 std::vector<SourceNode> childrenNamed(SourceNode node, std::string_view name)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "edit/reading.hpp"
+
 #include <zupackage/authoring/source_document.hpp>
 #include <zupackage/authoring/vocabulary.hpp>
 
@@ -44,10 +46,9 @@ private:
     std::vector<std::vector<SourceNode>> m_elementsOf; ///< by the index of the entry
 };
 
-/// The attribute of that name, without a prefix; null when there is none.
-SourceAttribute plainAttribute(SourceNode element, std::string_view name);
+using edit::plainAttribute;
 
-/// What it holds; empty when there is none.
+/// What the attribute holds, white space normalised; empty when there is none.
 std::string_view plainValue(SourceNode element, std::string_view name);
 
 /// The elements in a node that have that name, without a prefix.

@@ -39,7 +39,7 @@ SourceAttribute predecessor(SourceNode node, const AttributeEntry& wanted, const
     for (const AttributeEntry& known : entry.attributes) {
         if (&known == &wanted)
             break;
-        if (const SourceAttribute attribute = attributeOf(node, known.name))
+        if (const SourceAttribute attribute = plainAttribute(node, known.name))
             result = attribute;
     }
     return result;
@@ -65,8 +65,8 @@ void setAttributes(const SourceDocument& document, SourceNode node, SourceNode t
                    Edits& edits)
 {
     for (const AttributeEntry& known : entry.attributes) {
-        const SourceAttribute there = attributeOf(node, known.name);
-        const SourceAttribute wanted = attributeOf(target, known.name);
+        const SourceAttribute there = plainAttribute(node, known.name);
+        const SourceAttribute wanted = plainAttribute(target, known.name);
         const std::string value = readAttribute(target, known.name);
         if (readAlike(readAttribute(node, known.name), value, known.kind))
             continue;

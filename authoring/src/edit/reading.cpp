@@ -91,7 +91,7 @@ std::string writtenText(SourceNode node)
     return text;
 }
 
-SourceAttribute attributeOf(SourceNode node, std::string_view name)
+SourceAttribute plainAttribute(SourceNode node, std::string_view name)
 {
     for (const SourceAttribute attribute : node.attributes())
         if (attribute.name() == name)
@@ -109,7 +109,7 @@ std::string readValue(SourceAttribute attribute)
     return tokensOf(source, References::Resolved).value;
 }
 
-std::string readAttribute(SourceNode node, std::string_view name) { return readValue(attributeOf(node, name)); }
+std::string readAttribute(SourceNode node, std::string_view name) { return readValue(plainAttribute(node, name)); }
 
 Keeping keepingOf(const ElementEntry& entry)
 {

@@ -35,7 +35,7 @@ std::string writtenText(SourceNode node);
 using TextOf = std::string (*)(SourceNode);
 
 /// The attribute of that name without a prefix; null when there is none.
-SourceAttribute attributeOf(SourceNode node, std::string_view name);
+SourceAttribute plainAttribute(SourceNode node, std::string_view name);
 
 /// What an attribute says; empty for a null one.
 std::string readValue(SourceAttribute attribute);

@@ -21,12 +21,6 @@ bool canBeQuoted(std::string_view text)
     return !text.empty() && !hasControl && !hasBothQuotes;
 }
 
-std::string condition(std::string_view left, std::string_view text)
-{
-    const char quote = text.find('\'') == std::string_view::npos ? '\'' : '"';
-    return "[" + std::string(left) + "=" + quote + std::string(text) + quote + "]";
-}
-
 /// The step with what identifies the entry, or tells texts apart, as far as it can stand there.
 std::string identifiedStep(const PackageElement& element)
 {
@@ -34,15 +28,12 @@ std::string identifiedStep(const PackageElement& element)
     std::string step(entry.name);
     if (entry.occurrence != Occurrence::Repeated)
         return step;
-    const std::string& identity = identityOf(element);
-    if (canBeQuoted(identity))
-        return step + condition(entry.identity == k_ownText ? k_ownText : "@" + std::string(entry.identity), identity);
+    if (const std::string predicate = predicateOnIdentity(entry, identityOf(element)); !predicate.empty())
+        return step + predicate;
     if (!entry.identity.empty() || entry.text == ValueKind::None)
         return step;
-    for (std::size_t i = 0; i < entry.attributes.size(); ++i) {
-        if (canBeQuoted(element.attributes[i]))
-            step += condition("@" + std::string(entry.attributes[i].name), element.attributes[i]);
-    }
+    for (std::size_t i = 0; i < entry.attributes.size(); ++i)
+        step += predicateOn("@" + std::string(entry.attributes[i].name), element.attributes[i]);
     return step;
 }
 
@@ -76,6 +67,20 @@ std::vector<std::string> stepsOf(const std::vector<PackageElement>& entries)
             steps[i] += "[" + std::to_string(same.seen) + "]";
     }
     return steps;
+}
+
+std::string predicateOn(std::string_view what, std::string_view value)
+{
+    if (!canBeQuoted(value))
+        return {};
+    const char quote = value.find('\'') == std::string_view::npos ? '\'' : '"';
+    return "[" + std::string(what) + "=" + quote + std::string(value) + quote + "]";
+}
+
+std::string predicateOnIdentity(const ElementEntry& entry, std::string_view identity)
+{
+    return predicateOn(entry.identity == k_ownText ? std::string(k_ownText) : "@" + std::string(entry.identity),
+                       identity);
 }
 
 std::string pathTo(const std::string& path, std::string_view step)

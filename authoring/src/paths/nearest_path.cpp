@@ -1,5 +1,6 @@
 #include "check/wording.hpp"
-#include "edit/reading.hpp"
+#include "package/entry_steps.hpp"
+#include "paths/path_rules.hpp"
 #include "paths/path_selection.hpp"
 #include "paths/vocabulary_of_nodes.hpp"
 
@@ -12,23 +13,13 @@ namespace {
 /// Nobody reads through more, and everything takes time.
 constexpr std::size_t k_mostCandidates = 1000;
 
-std::string predicateOn(std::string_view what, std::string_view value)
-{
-    const char quote = value.find('\'') == std::string_view::npos ? '\'' : '"';
-    return "[" + std::string(what) + "=" + quote + std::string(value) + quote + "]";
-}
-
-/// What tells an element from its siblings by its identity; empty when that does not.
-std::string identityOf(SourceNode element)
+/// What tells an element from its siblings by its identity; empty when nothing does.
+std::string identityPredicate(SourceNode element)
 {
     const ElementEntry* const entry = zupackage::authoring::entryOf(element);
     if (!entry || entry->identity.empty())
         return {};
-    if (entry->identity == ".")
-        return predicateOn(".", zupackage::edit::readText(element));
-    const SourceAttribute attribute = zupackage::authoring::attributeNamed(element, entry->identity);
-    return attribute ? predicateOn("@" + std::string(entry->identity), zupackage::edit::readValue(attribute))
-                     : std::string();
+    return zupackage::authoring::predicateOnIdentity(*entry, zupackage::authoring::identityOf(element, *entry));
 }
 
 /// A step to each of the elements in `parent`.
@@ -44,7 +35,7 @@ void appendSteps(SourceNode parent, std::vector<std::string>& steps)
         if (!child.isElement() || steps.size() == k_mostCandidates)
             continue;
         const std::size_t position = ++positions[child.name()];
-        std::string predicate = identityOf(child);
+        std::string predicate = identityPredicate(child);
         if (predicate.empty() && counts[child.name()] > 1)
             predicate = "[" + std::to_string(position) + "]";
         steps.push_back(std::string(child.name()) + predicate);

@@ -180,7 +180,7 @@ private:
 
     void setAttribute(SourceNode element, const std::string& value)
     {
-        const SourceAttribute attribute = attributeNamed(element, m_path.attribute());
+        const SourceAttribute attribute = zupackage::edit::plainAttribute(element, m_path.attribute());
         if (m_isGuarded)
             requireAttribute(element, entryOf(element), m_path.attribute(), value, !attribute);
         if (attribute && zupackage::edit::readValue(attribute) == value)

@@ -42,7 +42,7 @@ void filter(std::vector<SourceNode>& elements, const PathPredicate& predicate)
             return edit::readText(element) != predicate.value;
         if (predicate.kind == PathPredicate::Kind::Child)
             return !hasChild(element, predicate);
-        const SourceAttribute attribute = attributeNamed(element, predicate.name);
+        const SourceAttribute attribute = edit::plainAttribute(element, predicate.name);
         return !attribute || edit::readValue(attribute) != predicate.value;
     };
     elements.erase(std::remove_if(elements.begin(), elements.end(), fails), elements.end());
@@ -71,15 +71,6 @@ std::vector<SourceNode> beginning(const SourceDocument& document, const Manifest
     if (!document.root())
         return {};
     return {path.isAbsolute() ? document.document() : document.root()};
-}
-
-SourceAttribute attributeNamed(SourceNode element, std::string_view name)
-{
-    for (const SourceAttribute attribute : element.attributes()) {
-        if (attribute.name() == name)
-            return attribute;
-    }
-    return {};
 }
 
 std::vector<std::vector<SourceNode>> sectionsOf(const std::vector<SourceNode>& elements)
@@ -132,7 +123,7 @@ std::vector<PathTarget> select(const SourceDocument& document, const ManifestPat
         elements = zupackage::authoring::stepFrom(elements, step);
     std::vector<PathTarget> targets;
     for (const SourceNode element : elements) {
-        const SourceAttribute attribute = zupackage::authoring::attributeNamed(element, path.attribute());
+        const SourceAttribute attribute = zupackage::edit::plainAttribute(element, path.attribute());
         if (path.attribute().empty() || attribute)
             targets.push_back({element, attribute});
     }

@@ -15,9 +15,6 @@ std::vector<zu::authoring::SourceNode> stepFrom(const std::vector<zu::authoring:
 std::vector<zu::authoring::SourceNode> beginning(const zu::authoring::SourceDocument& document,
                                                  const zu::authoring::ManifestPath& path);
 
-/// The attribute of exactly that name; null when there is none.
-zu::authoring::SourceAttribute attributeNamed(zu::authoring::SourceNode element, std::string_view name);
-
 /// The elements, which `stepFrom` found in one section, in groups that readers take for one: of a section that stands
 /// there more than once they take the children of all.
 std::vector<std::vector<zu::authoring::SourceNode>> sectionsOf(const std::vector<zu::authoring::SourceNode>& elements);

@@ -132,6 +132,13 @@ TEST(NearestPath, GoesAlongTheSameStepsThenToTheMostSimilar)
     EXPECT_EQ(nearest("/package/name"), "/package/names");
 }
 
+TEST(NearestPath, IsOneThatCanBeRead)
+{
+    const SourceDocument files = SourceDocument::parse(
+        "<package><executableFiles><file path=\"it's &quot;it&quot;\"/></executableFiles></package>");
+    EXPECT_EQ(nearestPath(files, ManifestPath("executableFiles/file[@path='it']")), "executableFiles/file");
+}
+
 TEST(NearestPath, IsTheRootElementWhereNothingIsSimilar)
 {
     EXPECT_EQ(nearest("executableFiles/file"), "/package");
