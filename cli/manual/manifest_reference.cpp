@@ -73,7 +73,7 @@ std::string sentencesOf(const ElementEntry& element)
     text.append(" ").append(wordsOf(element.occurrence));
     if (element.text != ValueKind::None)
         text.append(" Holds: ").append(wordsOf(element.text).name).append(".");
-    if (element.identity == ".")
+    if (element.identity == authoring::k_ownText)
         text += " No two beside each other have the same text.";
     else if (!element.identity.empty())
         text.append(" No two beside each other have the same ").append(element.identity).append(".");

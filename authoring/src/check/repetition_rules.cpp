@@ -13,19 +13,20 @@ namespace {
 
 using zu::authoring::AttributeEntry;
 using zu::authoring::ExampleFrame;
+using zu::authoring::k_ownText;
 using zu::authoring::Severity;
 
 /// Where to look for equal entries, and what tells one from another.
 struct Repetition
 {
     std::string_view path;
-    std::string_view key; ///< an attribute; "." for the text
+    std::string_view key; ///< an attribute; k_ownText for the text
     Fate fate;
 };
 
 std::string keyOf(SourceNode element, std::string_view key)
 {
-    return key == "." ? edit::readText(element) : edit::readAttribute(element, key);
+    return key == k_ownText ? edit::readText(element) : edit::readAttribute(element, key);
 }
 
 /// Reports the elements of an entry that have one parent and one key. Empty keys have a rule of their own.
@@ -54,8 +55,8 @@ void findRepeatedLanguages(const Checked& checked, Findings& findings)
     for (const Repetition& repetition :
          {Repetition{"/package/names/name", "lang", Fate::LastCounts},
           Repetition{"/package/descriptions/description", "lang", Fate::LastCounts},
-          Repetition{"/package/supportedLanguages/language", ".", Fate::FirstCounts},
-          Repetition{"/package/descriptionLanguages/language", ".", Fate::FirstCounts},
+          Repetition{"/package/supportedLanguages/language", k_ownText, Fate::FirstCounts},
+          Repetition{"/package/descriptionLanguages/language", k_ownText, Fate::FirstCounts},
           Repetition{"/package/contents/behaviorContent/names/name", "lang", Fate::LastCounts},
           Repetition{"/package/contents/behaviorContent/descriptions/description", "lang", Fate::LastCounts},
           Repetition{"/package/contents/dialogContent/topic", "language", Fate::LastCounts},

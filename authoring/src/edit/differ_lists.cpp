@@ -16,7 +16,7 @@ std::string identityOf(SourceNode node, const ElementEntry& entry, TextOf textOf
 {
     if (isListOfNames(*entry.parent))
         return std::string(node.name());
-    if (!entry.identity.empty() && entry.identity != ".")
+    if (!entry.identity.empty() && entry.identity != zu::authoring::k_ownText)
         return readAttribute(node, entry.identity);
     std::string identity = textOf(node);
     if (entry.identity.empty())

@@ -9,6 +9,7 @@ namespace zupackage::edit {
 
 using zu::authoring::AttributeEntry;
 using zu::authoring::ByteRange;
+using zu::authoring::k_ownText;
 using zu::authoring::NodeKind;
 using zu::authoring::Occurrence;
 using zu::authoring::SourceTree;
@@ -63,7 +64,7 @@ Keeping keepingOfRepeated(const ElementEntry& entry)
 {
     if (entry.parent->countsEveryChild && entry.identity.empty())
         return Keeping::TextsOfKeys;
-    if (entry.identity == ".")
+    if (entry.identity == k_ownText)
         return Keeping::Codes;
     if (isKeyedByLanguage(entry))
         return Keeping::LastOfKey;

@@ -61,7 +61,7 @@ Keeping keepingOf(const ElementEntry& entry);
 /// Whether its children say by their names alone what is in it: a list in which each name stands once.
 bool isListOfNames(const ElementEntry& entry);
 
-/// The attribute that is the key of an entry that has one; "." when that is its text.
+/// The attribute that is the key of an entry that has one; k_ownText when that is its text.
 std::string_view keyName(const ElementEntry& entry);
 
 /// Whether a writer writes it: it leaves out what has no text, and of what needs all its attributes, what lacks one.

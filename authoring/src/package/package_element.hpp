@@ -10,10 +10,8 @@
 /// Packages as trees of what the vocabulary knows, so that what compares and merges them need not know their fields.
 namespace zupackage::authoring {
 
-/// The identity of entries that their own text identifies, in the vocabulary.
-inline constexpr std::string_view k_ownText = ".";
-
 using zu::authoring::ElementEntry;
+using zu::authoring::k_ownText;
 
 /// An element of a package as its writer writes it.
 struct PackageElement

@@ -13,6 +13,7 @@ namespace {
 
 using zu::authoring::AttributeEntry;
 using zu::authoring::ElementEntry;
+using zu::authoring::k_ownText;
 using zu::authoring::Occurrence;
 using zu::authoring::ValueKind;
 
@@ -58,13 +59,14 @@ void writeConstraint(SchemaWriter& out, const std::string& tag, const std::strin
 /// What no two elements of an entry in one parent have in common; empty when there is nothing.
 std::vector<std::string> distinctFields(const ElementEntry& entry)
 {
-    if (entry.identity == ".")
-        return {"."};
+    if (entry.identity == k_ownText)
+        return {std::string(k_ownText)};
     if (!entry.identity.empty())
         return {"@" + std::string(entry.identity)};
     const bool isTextOfKey = entry.parent->countsEveryChild && !entry.attributes.empty();
-    return isTextOfKey ? std::vector<std::string>{"@" + std::string(entry.attributes.front().name), "."}
-                       : std::vector<std::string>();
+    return isTextOfKey
+               ? std::vector<std::string>{"@" + std::string(entry.attributes.front().name), std::string(k_ownText)}
+               : std::vector<std::string>();
 }
 
 std::string uniqueNamed(std::string name)
@@ -97,7 +99,7 @@ void writeReferences(SchemaWriter& out)
     writeConstraint(out,
                     "xs:keyref" + withAttribute("name", "descriptionLanguages-with-names") +
                         withAttribute("refer", "languages-of-names"),
-                    "descriptionLanguages/language", {"."});
+                    "descriptionLanguages/language", {std::string(k_ownText)});
 }
 
 bool isRepeated(const ElementEntry* entry) { return entry->occurrence == Occurrence::Repeated; }

@@ -33,6 +33,9 @@ enum class Occurrence
     Repeated  ///< any number
 };
 
+/// The identity of entries that their own text tells from others.
+inline constexpr std::string_view k_ownText = ".";
+
 /// An attribute that an element may carry.
 struct AttributeEntry
 {
@@ -51,7 +54,7 @@ struct ElementEntry
     std::size_t index;          ///< its place in Vocabulary::elements()
     Occurrence occurrence;      ///< in `parent`
     ValueKind text;             ///< of the text in it, not of that in its children
-    /// What tells it from its siblings of the same name: an attribute's name, "." for its own text, empty for nothing.
+    /// What tells it from its siblings of the same name: an attribute's name, k_ownText, empty for nothing.
     std::string_view identity;
     /// The reader takes every child, of whatever name and kind, for an entry.
     bool countsEveryChild;
