@@ -1,3 +1,5 @@
+#include "white_space.hpp"
+
 #include <zupackage/authoring/language_matrix.hpp>
 #include <zupackage/package_info.hpp>
 
@@ -10,7 +12,7 @@ namespace {
 
 constexpr std::size_t k_mostLanguages = 500;
 
-std::size_t countOf(const std::string& text) { return text.find_first_not_of(" \t\n\r") == std::string::npos ? 0 : 1; }
+std::size_t countOf(const std::string& text) { return zupackage::authoring::isBlank(text) ? 0 : 1; }
 
 std::size_t countOf(const std::list<std::string>& texts)
 {

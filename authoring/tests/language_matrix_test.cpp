@@ -152,6 +152,7 @@ TEST(LanguageMatrix, TextsOfWhiteSpaceAreNone)
     PackageInfo package = greeter();
     package.setName(" \n\t", "fr");
     package.setName("", "it");
+    package.setName("\u00A0\u3000", "es");
     const LanguageMatrix matrix = languageMatrix(package);
     EXPECT_THAT(codesOf(matrix), ElementsAre("de", "en", "fr"));
     EXPECT_TRUE(matrix.isMissing(matrix.parts[0].rows[0], 2));

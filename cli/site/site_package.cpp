@@ -12,7 +12,8 @@ namespace {
 
 using Texts = std::map<std::string, std::string>;
 
-bool isBlank(const std::string& text) { return text.find_first_not_of(" \t\n\r") == std::string::npos; }
+/// As readers of manifests have it: beyond the white space of XML, all that Unicode calls such.
+bool isBlank(const std::string& text) { return QString::fromStdString(text).trimmed().isEmpty(); }
 
 std::string folderNameOf(const std::string& path)
 {

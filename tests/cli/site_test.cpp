@@ -71,6 +71,13 @@ TEST_F(SiteCommand, MakesAListAPageForEachPackageAndAStyleSheet)
     EXPECT_EQ(page("style.css"), test::readFile(test::sourcePath("cli/site/style.css")));
 }
 
+TEST_F(SiteCommand, TitlesAreNoneOfWhiteSpaceAlone)
+{
+    manifest("a", "<package uuid=\"&#xA0;\"><names><name lang=\"en\"><![CDATA[\u3000]]></name></names></package>");
+    EXPECT_EQ(site({packages, "-o", out}).exitCode, 0);
+    EXPECT_THAT(page("index.html"), HasSubstr("\">a</a>"));
+}
+
 TEST_F(SiteCommand, ShowsTheTextsOfStrangersAsText)
 {
     manifest("hostile", k_hostile);
