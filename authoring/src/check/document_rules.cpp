@@ -149,10 +149,9 @@ const std::vector<RuleRow>& documentRules()
         {{"not-well-formed", Severity::Error, "The document is not well-formed XML",
           "Editors, stores and other tools refuse such a document. The robot's own parser is lenient: it overlooks an "
           "attribute that stands twice, an entity that nobody declares and bytes that mean nothing. For a document "
-          "that "
-          "breaks off, a tag that ends another one and most other errors it refuses the whole manifest. Each finding "
-          "says which of the two the robot does. Some errors end the check: what comes after them is judged once they "
-          "are gone.",
+          "that breaks off, a tag that ends another one and most other errors it refuses the whole manifest. Each "
+          "finding says which of the two the robot does. Some errors end the check: what comes after them is judged "
+          "once they are gone.",
           ExampleFrame::Behavior, "<descriptions><description lang=\"en\">Fish & chips</description></descriptions>",
           "<descriptions><description lang=\"en\">Fish &amp; chips</description></descriptions>", ""},
          findIllFormed},
@@ -165,8 +164,7 @@ const std::vector<RuleRow>& documentRules()
          findForbiddenCharacters},
         {{"replacement-character", Severity::Warning, "U+FFFD, which stands for a character that was lost",
           "Programs write U+FFFD where they could not make out a character, mostly because a text was read in the "
-          "wrong "
-          "encoding. Nobody wants to see it in a store.",
+          "wrong encoding. Nobody wants to see it in a store.",
           ExampleFrame::Behavior, "<descriptions><description lang=\"en\">Caf\xEF\xBF\xBD</description></descriptions>",
           "<descriptions><description lang=\"en\">Caf\xC3\xA9</description></descriptions>", ""},
          findReplacementCharacters},
@@ -204,9 +202,8 @@ const std::vector<RuleRow>& documentRules()
          findPrefixes},
         {{"split-condition", Severity::Warning, "\"]]>\" in a condition",
           "Conditions are written as CDATA sections, which cannot hold \"]]>\": tools that write the manifest part "
-          "such "
-          "a condition into two sections. It reads as before, but people have a hard time with it. A space between the "
-          "brackets avoids that.",
+          "such a condition into two sections. It reads as before, but people have a hard time with it. A space "
+          "between the brackets avoids that.",
           ExampleFrame::Behavior, "<autonomous><condition purpose=\"play\">ball[seen[0]]&gt;0</condition></autonomous>",
           "<autonomous><condition purpose=\"play\">ball[seen[0] ] &gt; 0</condition></autonomous>", ""},
          findSplitConditions},

@@ -190,9 +190,10 @@ const std::vector<RuleRow>& fileRules()
           "somebody else. An absolute path that a service starts may be a program of the robot and is left alone.",
           ExampleFrame::Contents, "<webContent path=\"../web\"/>", "<webContent path=\"web\"/>", "web/index.html"},
          findFilesOutside},
-        {{"not-a-regular-file", Severity::Error, "An executable file that is a folder or a device",
-          "Installers make files executable; what else the path may lead to they refuse.", ExampleFrame::Package,
-          "<executableFiles><file path=\"bin\"/></executableFiles>",
+        {{"not-a-regular-file", Severity::Error, "An executable file or a program that is a folder or a device",
+          "Installers make files executable; what else the path may lead to they refuse. A service whose program is no "
+          "file does not start.",
+          ExampleFrame::Package, "<executableFiles><file path=\"bin\"/></executableFiles>",
           "<executableFiles><file path=\"bin/clock\"/></executableFiles>", "bin/clock"},
          findIrregularFiles},
         {{"file-named-twice", Severity::Warning, "A file that two entries name",

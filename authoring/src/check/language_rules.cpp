@@ -151,9 +151,8 @@ const std::vector<RuleRow>& languageRules()
           ""},
          findUnknownLanguages},
         {{"former-language", Severity::Warning, "A language code that another one has replaced",
-          "The codes \"in\", \"iw\", \"ji\", \"jw\" and \"mo\" were given up for \"id\", \"he\", \"yi\", \"jv\" and "
-          "\"ro\". "
-          "Robots compare codes to the byte, so that a text in the one is not found for the other.",
+          "Some languages have a code that was given up for another one, as Hebrew's \"iw\" for \"he\". Robots compare "
+          "codes to the byte, so that a text in the one is not found for the other.",
           ExampleFrame::Languages,
           "<supportedLanguages><language>iw</language></supportedLanguages>"
           "<descriptionLanguages><language>en</language></descriptionLanguages>",

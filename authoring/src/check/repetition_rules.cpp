@@ -197,8 +197,7 @@ const std::vector<RuleRow>& repetitionRules()
          findRepeatedFiles},
         {{"repeated-text", Severity::Info, "A tag, sentence or condition stands twice in one list",
           "Readers keep both, so that a response comes twice as often, and a tag is counted twice. The fix drops the "
-          "second "
-          "one.",
+          "second one.",
           ExampleFrame::Behavior, "<tags><tag lang=\"en\">fun</tag><tag lang=\"en\">fun</tag></tags>",
           "<tags><tag lang=\"en\">fun</tag><tag lang=\"en\">games</tag></tags>", ""},
          findRepeatedTexts},

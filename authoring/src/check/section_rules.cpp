@@ -95,8 +95,7 @@ const std::vector<RuleRow>& sectionRules()
          findRepeatedSections},
         {{"repeated-element", Severity::Warning, "An element stands twice where one counts",
           "Of two natures, engines or locales the later one counts, and a second userRequestable changes nothing. The "
-          "fix "
-          "removes what does not count.",
+          "fix removes what does not count.",
           ExampleFrame::Contents,
           "<behaviorContent path=\"wave\"><nature>solitary</nature><nature>interactive</nature></behaviorContent>",
           "<behaviorContent path=\"wave\"><nature>interactive</nature></behaviorContent>", ""},

@@ -203,8 +203,7 @@ const std::vector<RuleRow>& valueRules()
          findInvalidDates},
         {{"malformed-version", Severity::Error, "A version that cannot be compared",
           "Versions are numbers parted by dots, with a pre-release behind a hyphen and a build behind a plus sign "
-          "where "
-          "they are wanted. Of two others nobody can tell which is newer.",
+          "where they are wanted. Of two others nobody can tell which is newer.",
           ExampleFrame::RootTag, "<package uuid=\"org.example.hello\" version=\"v1.0\">",
           "<package uuid=\"org.example.hello\" version=\"1.0\">", ""},
          findMalformedVersions},

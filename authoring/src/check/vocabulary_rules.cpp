@@ -249,8 +249,7 @@ const std::vector<RuleRow>& vocabularyRules()
         {{"unknown-element", Severity::Error, "An element that manifests do not have",
           "Readers skip elements that they do not know, with all that stands in them and without a word. In the lists "
           "of texts and languages every element is an entry, whatever it is called. The fix gives it the name that was "
-          "meant, or "
-          "removes what readers skip.",
+          "meant, or removes what readers skip.",
           ExampleFrame::Behavior, "<tagz><tag lang=\"en\">fun</tag></tagz>", "<tags><tag lang=\"en\">fun</tag></tags>",
           ""},
          findUnknownElements},
