@@ -19,7 +19,7 @@ using zu::authoring::ValueKind;
 
 constexpr char k_head[] = R"(<?xml version="1.0" encoding="UTF-8"?>
 <!-- What the manifest of a package may hold, for editors and validators. "zupackage check" finds more: comments in
-     lists, what depends on other places or on files. -->
+     lists, most of what depends on other places, what depends on files. -->
 <xs:schema xmlns:xs="http://www.w3.org/2001/XMLSchema" elementFormDefault="unqualified">
   <xs:simpleType name="nothing">
     <xs:restriction base="xs:string">

@@ -55,7 +55,9 @@ struct ManifestMerge
     std::string ours;   ///< the bytes of our manifest with what they changed, and our side of every conflict
     std::string theirs; ///< the same with their side of every conflict; what it has in common with `ours` are its bytes
     std::vector<MergeConflict> conflicts; ///< as PackageMerge has them; without any, `theirs` equals `ours`
-    /// What they changed that is no part of a package, and that `ours` does not have, or still has.
+    /// What they changed that is no part of a package, and that `ours` does not have, or still has: what they removed,
+    /// then what they added, each sorted by the texts, of which one that came or went several times stands there once.
+    /// What stands in an unknown element is part of its text.
     std::vector<UnmergedText> leftBehind;
 };
 

@@ -12,8 +12,9 @@
 namespace zu::authoring {
 
 /// Gives everything that the path leads to another text. Where a step leads to nothing, what it names is made in each
-/// element that the steps before it lead to: with the attributes, children and text that its predicates ask for, where
-/// it stands in complete manifests. A position or "*" does not say what to make.
+/// element that the steps before it lead to, of a section that stands there several times in the last one: with the
+/// attributes, children and text that its predicates ask for, where it stands in complete manifests. A position, "*"
+/// and predicates that contradict each other do not say what to make.
 struct SetText
 {
     ManifestPath path; ///< to elements or to attributes
