@@ -4,7 +4,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 
 /// How a document is laid out.
 namespace zupackage::authoring {

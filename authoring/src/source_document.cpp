@@ -40,6 +40,19 @@ void read(SourceTree& tree)
 
 } // namespace
 
+std::string_view charactersOf(LineEnd lineEnd)
+{
+    switch (lineEnd) {
+    case LineEnd::LineFeed:
+        return "\n";
+    case LineEnd::CarriageReturn:
+        return "\r";
+    case LineEnd::CarriageReturnLineFeed:
+        return "\r\n";
+    }
+    return "\n";
+}
+
 SourceDocument::SourceDocument() : SourceDocument(parse({})) {}
 
 SourceDocument::SourceDocument(std::shared_ptr<const SourceTree> tree) : m_tree(std::move(tree)) {}
@@ -101,19 +114,6 @@ std::string_view SourceDocument::source(ByteRange range) const
 
 const std::string& SourceDocument::encoding() const { return m_tree->encoding.name; }
 bool SourceDocument::hasByteOrderMark() const { return m_tree->encoding.markSize > 0; }
-std::string_view charactersOf(LineEnd lineEnd)
-{
-    switch (lineEnd) {
-    case LineEnd::LineFeed:
-        return "\n";
-    case LineEnd::CarriageReturn:
-        return "\r";
-    case LineEnd::CarriageReturnLineFeed:
-        return "\r\n";
-    }
-    return "\n";
-}
-
 LineEnd SourceDocument::lineEnd() const { return m_tree->places.mostFrequentLineEnd(); }
 
 } // namespace zu::authoring

@@ -153,10 +153,10 @@ private:
     {
         m_leadsSomewhere = true;
         requireXmlTexts(element);
-        if (m_isGuarded)
+        if (m_isGuarded) {
             requireElement(parent, entryOf(parent), element);
-        if (m_isGuarded)
             append(statementsOf(parent, element));
+        }
         m_edits.push_back(insertion(m_document, parent, element));
     }
 
