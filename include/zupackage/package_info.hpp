@@ -348,9 +348,10 @@ ZUPACKAGE_EXPORT bool readManifest(const std::string& bytes, PackageInfo& packag
 /// Replaces the manifest file of that name, in UTF-8, as a whole: with what PackageInfo::saveToManifestFile() writes,
 /// or not at all. The new content stands in a file beside the old one until it is complete and on the disk, and takes
 /// its place then; when the process ends before that, the old file is as it was, and the new one may be left beside it.
-/// The file keeps its permissions, to the bit, and, where the process may set it, its owner; one that was not there has
-/// what new files have. Of a symbolic link the file it leads to is replaced, or made when there is none; other hard
-/// links to the file keep the old content. Nothing is logged. May run on several threads at once.
+/// The file keeps its permissions, to the bit, and, where the process may set them, its owner and group; where it may
+/// not, the set-user-id or set-group-id bit goes. A file that was not there has what new ones have. Of a symbolic link
+/// the file it leads to is replaced, or made when there is none; other hard links to the file keep the old content.
+/// Nothing is logged. May run on several threads at once.
 ///
 /// Throws std::runtime_error "Could not write PATH: REASON", and the old file is as it was, when there is no space,
 /// when the folder or the file may not be written (the folder alone would do, but who made a file read-only means it),
