@@ -5,8 +5,6 @@
 
 #include <zupackage/package_info.hpp>
 
-#include <QtCore/QString>
-
 #include <filesystem>
 
 namespace zu::cli {
@@ -53,9 +51,6 @@ bool takeSettings(CheckedManifest& checked, const std::optional<std::string>& pa
 /// @return why the file could not be written; empty when it was.
 std::string writeFile(const std::string& path, const std::string& bytes)
 {
-    // Of another name another file would be written.
-    if (QString::fromStdString(path).toStdString() != path)
-        return "Could not write " + path + ": The name is no UTF-8";
     try {
         replaceManifest(path, bytes);
         return {};

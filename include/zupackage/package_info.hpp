@@ -355,7 +355,7 @@ ZUPACKAGE_EXPORT bool readManifest(const std::string& bytes, PackageInfo& packag
 ///
 /// Throws std::runtime_error "Could not write PATH: REASON", and the old file is as it was, when there is no space,
 /// when the folder or the file may not be written (the folder alone would do, but who made a file read-only means it),
-/// and when what has the name is no regular file: a device, a pipe, a folder.
+/// when what has the name is no regular file (a device, a pipe, a folder), and when the file's name is no UTF-8.
 ZUPACKAGE_EXPORT void saveManifest(const PackageInfo& package, const std::string& path);
 
 /// The same for programs that edit the text of a manifest: the file becomes these bytes, whatever they are.

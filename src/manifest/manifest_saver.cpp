@@ -22,6 +22,9 @@ namespace fs = std::filesystem;
 [[noreturn]] void fail(const QString& reason) { throw std::runtime_error(xml::toUtf8(reason)); }
 [[noreturn]] void fail(std::errc reason) { throw std::runtime_error(std::make_error_code(reason).message()); }
 
+/// What QSaveFile cannot name would be written into a file of another name.
+[[noreturn]] void failForName() { fail(QStringLiteral("The name is no UTF-8")); }
+
 /// What a chain of symbolic links leads to, which need not exist.
 fs::path linkTarget(fs::path path)
 {
@@ -39,7 +42,11 @@ fs::path linkTarget(fs::path path)
 /// its path, not through linked folders.
 QString fileBehind(const QString& path)
 {
-    return QFile::decodeName(linkTarget(QFile::encodeName(path).toStdString()).c_str());
+    const std::string target = linkTarget(QFile::encodeName(path).toStdString());
+    QString name = QFile::decodeName(target.c_str());
+    if (QFile::encodeName(name).toStdString() != target)
+        failForName();
+    return name;
 }
 
 void keepOwner(QSaveFile& file, const struct stat& present)
@@ -77,8 +84,11 @@ void write(QSaveFile& file, const std::string& content)
     }
 }
 
-void replaceFile(const QString& path, const std::string& content)
+void replaceFile(const std::string& name, const std::string& content)
 {
+    const QString path = xml::fromUtf8(name);
+    if (xml::toUtf8(path) != name)
+        failForName();
     // Qt would take the working folder for the file's, and the name for what stands before the zero.
     if (path.isEmpty())
         fail(std::errc::no_such_file_or_directory);
@@ -117,7 +127,7 @@ void saveManifest(const PackageInfo& package, const std::string& path)
 void replaceManifest(const std::string& path, const std::string& bytes)
 {
     try {
-        zupackage::replaceFile(zupackage::xml::fromUtf8(path), bytes);
+        zupackage::replaceFile(path, bytes);
     } catch (const std::runtime_error& error) {
         throw std::runtime_error("Could not write " + std::string(path.c_str()) + ": " + error.what());
     }

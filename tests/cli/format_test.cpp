@@ -132,6 +132,19 @@ TEST_F(Format, AManifestThatCannotBeReplacedIsReportedAndStays)
     EXPECT_EQ(test::readFile(path("a/manifest.xml")), k_crooked);
 }
 
+TEST_F(Format, AManifestWhoseNameCannotBeWrittenStaysAndNoOtherIsMade)
+{
+    // Of a folder, for the arguments of this process are characters.
+    fs::create_directory(folder.path() / "c\xFF");
+    const std::string file = folder.file("c\xFF/manifest.xml", k_crooked);
+    const ProgramResult result = format({folder.path().string()});
+    EXPECT_EQ(result.exitCode, 5);
+    EXPECT_THAT(result.errors, HasSubstr("/c\xEF\xBF\xBD/manifest.xml: The name is no UTF-8\n"));
+    EXPECT_EQ(test::readFile(file), k_crooked);
+    EXPECT_FALSE(fs::exists(folder.path() / "c\xEF\xBF\xBD"));
+    EXPECT_EQ(test::readFile(path("a/manifest.xml")), k_straight);
+}
+
 TEST_F(Format, TheExamplesAreInForm)
 {
     const ProgramResult result = format({"--diff", test::sourcePath("examples/packages").string()});

@@ -126,6 +126,7 @@ TEST_F(ManifestSaver, AFailureNamesPathAndReasonAndIsNotLogged)
     fs::create_directory(path("folder"));
     ASSERT_EQ(mkfifo(path("pipe").c_str(), 0600), 0);
     fs::create_symlink("loop", path("loop"));
+    fs::create_symlink("\xFF.xml", path("link"));
     const std::pair<std::string, std::string> cases[] = {
         {path("absent/manifest.xml"), "No such file or directory"},
         {path("folder"), "Not a regular file"},
@@ -133,11 +134,13 @@ TEST_F(ManifestSaver, AFailureNamesPathAndReasonAndIsNotLogged)
         {path("loop"), "Too many levels of symbolic links"},
         {"", "No such file or directory"},
         {path("manifest.xml") + '\0' + "rest", "Invalid argument"},
+        {path("\xFF.xml"), "The name is no UTF-8"},
+        {path("link"), "The name is no UTF-8"},
     };
     for (const auto& [name, reason] : cases)
         EXPECT_EQ(failure(package, name), "Could not write " + std::string(name.c_str()) + ": " + reason);
     EXPECT_THAT(log.lines(), testing::IsEmpty());
-    EXPECT_THAT(files(), testing::UnorderedElementsAre("folder", "pipe", "loop"));
+    EXPECT_THAT(files(), testing::UnorderedElementsAre("folder", "pipe", "loop", "link"));
 }
 
 TEST_F(ManifestSaver, KeepsThePermissionsOfTheFile)
