@@ -139,4 +139,11 @@ std::optional<std::string> applyEdits(const SourceDocument& document, const std:
     return bytes.append(tree.bytes, at, std::string::npos);
 }
 
+std::size_t encodedSize(const SourceDocument& document, std::string_view replacement)
+{
+    std::string bytes;
+    Encoder(SourceTreeAccess::tree(document).encoding, bytes).append(replacement);
+    return bytes.size();
+}
+
 } // namespace zu::authoring

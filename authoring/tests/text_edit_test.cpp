@@ -54,7 +54,9 @@ TEST(TextEdit, AReplacementIsEncodedAsTheDocumentIs)
         const std::size_t middle = test::encoded("<p>", encoding).size();
         EXPECT_EQ(applied(bytes, {{{middle, middle}, text}}), test::encoded("<p>" + text + "</p>", encoding))
             << encoding;
+        EXPECT_EQ(encodedSize(SourceDocument::parse(bytes), text), test::encoded(text, encoding).size()) << encoding;
     }
+    EXPECT_EQ(encodedSize(SourceDocument::parse("<p></p>"), text), text.size());
 }
 
 TEST(TextEdit, WhatTheEncodingDoesNotHaveBecomesAReference)
@@ -67,6 +69,7 @@ TEST(TextEdit, WhatTheEncodingDoesNotHaveBecomesAReference)
         const std::string start = "<?xml version='1.0' encoding='" + encoding + "'?><p>";
         EXPECT_EQ(applied(start + "</p>", {{{start.size(), start.size()}, text}}), start + expected + "</p>")
             << encoding;
+        EXPECT_EQ(encodedSize(SourceDocument::parse(start + "</p>"), text), expected.size()) << encoding;
     }
 }
 

@@ -1,7 +1,5 @@
 #include "check/fixed_document.hpp"
 
-#include <QtCore/QString>
-
 #include <algorithm>
 
 namespace zu::cli {
@@ -12,28 +10,19 @@ using authoring::Diagnostic;
 using authoring::SourceDocument;
 using authoring::TextEdit;
 
-/// How many bytes a replacement takes in a document of that encoding.
-std::size_t encodedSize(const std::string& replacement, const std::string& encoding)
-{
-    if (encoding == "UTF-8")
-        return replacement.size();
-    const auto units = static_cast<std::size_t>(QString::fromStdString(replacement).size());
-    return encoding.compare(0, 6, "UTF-16") == 0 ? 2 * units : units;
-}
-
 /// Finds, for places in a document that was edited again and again, where they were before.
 class EditHistory
 {
 public:
     /// @param edits of one round, which do not overlap.
-    void add(std::vector<TextEdit> edits, const std::string& encoding)
+    void add(std::vector<TextEdit> edits, const SourceDocument& document)
     {
         std::stable_sort(edits.begin(), edits.end(), [](const TextEdit& left, const TextEdit& right) {
             return left.range.begin < right.range.begin;
         });
         std::vector<Change>& changes = m_rounds.emplace_back();
         for (const TextEdit& edit : edits)
-            changes.push_back({edit.range, encodedSize(edit.replacement, encoding)});
+            changes.push_back({edit.range, encodedSize(document, edit.replacement)});
     }
 
     std::size_t originOf(std::size_t offset) const
@@ -89,7 +78,7 @@ FixedDocument fixedDocument(const SourceDocument& document, const authoring::Che
                 {finding.rule, finding.fix->title, document.place(history.originOf(finding.range.bytes.begin))});
             edits.insert(edits.end(), finding.fix->edits.begin(), finding.fix->edits.end());
         }
-        history.add(std::move(edits), fixed.document.encoding());
+        history.add(std::move(edits), fixed.document);
         fixed.document = SourceDocument::parse(std::move(text));
         fixed.report = authoring::check(fixed.document, options);
     }

@@ -4,6 +4,7 @@
 #include "manifest_bytes.hpp"
 #include "output.hpp"
 
+#include <zupackage/authoring/text_edit.hpp>
 #include <zupackage/package_info.hpp>
 
 namespace zu::cli {
@@ -17,8 +18,7 @@ namespace {
 /// The bytes of a document; in UTF-8 where lines of them would be none for those who read them, and for `patch`.
 std::string_view linesOf(const SourceDocument& document)
 {
-    const std::string& encoding = document.encoding();
-    const bool isWide = encoding.compare(0, 6, "UTF-16") == 0 || encoding.compare(0, 6, "UTF-32") == 0;
+    const bool isWide = encodedSize(document, "\n") > 1;
     return isWide ? document.source({0, document.text().size()}) : std::string_view(document.text());
 }
 

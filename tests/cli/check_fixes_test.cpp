@@ -1,6 +1,7 @@
 #include "cli/check_command.hpp"
 #include "support/json_schema.hpp"
 
+#include <QtCore/QTextCodec>
 #include <gmock/gmock.h>
 
 #include <sys/stat.h>
@@ -51,6 +52,18 @@ TEST_F(CheckCommand, FixesStandWhereTheFileHadWhatTheyFix)
         EXPECT_THAT(check({"--fix-unsafe", run, path}).output, HasSubstr(path + ":1:31: ")) << run;
     }
     EXPECT_EQ(content(), replaced(k_fixable, " true ", "true"));
+}
+
+TEST_F(CheckCommand, FixesStandWhereTheFileHadWhatTheyFixInEveryEncoding)
+{
+    for (const char* encoding : {"UTF-16LE", "UTF-16BE", "UTF-32LE", "UTF-32BE", "ISO-8859-1"}) {
+        SCOPED_TRACE(encoding);
+        const std::string text = "<?xml version=\"1.0\" encoding=\"" + std::string(encoding) + "\"?>\n" +
+                                 replaced(k_fixable, "Startup", "Startp");
+        const QByteArray bytes = QTextCodec::codecForName(encoding)->fromUnicode(QString::fromStdString(text));
+        const std::string path = manifest(bytes.toStdString());
+        EXPECT_THAT(check({"--fix-unsafe", path}).output, HasSubstr(path + ":2:31: fixed: write \"true\""));
+    }
 }
 
 TEST_F(CheckCommand, FixesAreNamedInEveryFormat)

@@ -4,8 +4,10 @@
 #include <zupackage/authoring/place.hpp>
 #include <zupackage/authoring/source_document.hpp>
 
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace zu::authoring {
@@ -35,5 +37,8 @@ inline bool operator!=(const TextEdit& left, const TextEdit& right) { return !(l
 /// cut a character in two, or when a replacement is no UTF-8.
 ZUPACKAGE_AUTHORING_EXPORT std::optional<std::string> applyEdits(const SourceDocument& document,
                                                                  const std::vector<TextEdit>& edits);
+
+/// How many bytes applyEdits() writes for a replacement, which is in UTF-8, in the document's encoding.
+ZUPACKAGE_AUTHORING_EXPORT std::size_t encodedSize(const SourceDocument& document, std::string_view replacement);
 
 } // namespace zu::authoring
