@@ -85,8 +85,8 @@ std::optional<ConflictMarks> marksOf(const MergeArguments& arguments)
     }
     ConflictMarks marks;
     marks.size = std::stoul(size);
-    marks.oursLabel = arguments.labels.empty() ? "ours" : arguments.labels[0];
-    marks.theirsLabel = arguments.labels.size() < 2 ? "theirs" : arguments.labels[1];
+    marks.oursLabel = arguments.labels.empty() ? "ours" : displayed(arguments.labels[0]);
+    marks.theirsLabel = arguments.labels.size() < 2 ? "theirs" : displayed(arguments.labels[1]);
     return marks;
 }
 

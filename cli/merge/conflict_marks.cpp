@@ -70,6 +70,12 @@ private:
     std::string m_theirs;
 };
 
+/// From behind the byte order mark to the end, whatever the document's tree covers.
+authoring::ByteRange characterRange(const SourceDocument& document)
+{
+    return {document.document().contentRange().begin, document.text().size()};
+}
+
 } // namespace
 
 std::string withConflictMarks(const SourceDocument& ours, const SourceDocument& theirs, const ConflictMarks& marks)
@@ -83,8 +89,8 @@ std::string withConflictMarks(const SourceDocument& ours, const SourceDocument& 
             lines.add(step);
         return lines.take();
     }
-    const authoring::ByteRange whole = ours.document().contentRange();
-    for (const LineStep& step : lineSteps(ours.source(whole), theirs.source(theirs.document().contentRange())))
+    const authoring::ByteRange whole = characterRange(ours);
+    for (const LineStep& step : lineSteps(ours.source(whole), theirs.source(characterRange(theirs))))
         lines.add(step);
     // The one edit replaces all, so that it always fits.
     return applyEdits(ours, {{whole, lines.take()}}).value();

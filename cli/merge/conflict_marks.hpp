@@ -10,8 +10,8 @@ namespace zu::cli {
 /// How conflicts are marked.
 struct ConflictMarks
 {
-    std::size_t size = 7; ///< of each mark, in characters
-    std::string oursLabel;
+    std::size_t size = 7;  ///< of each mark, in characters
+    std::string oursLabel; ///< in UTF-8, as theirsLabel
     std::string theirsLabel;
 };
 

@@ -95,6 +95,31 @@ TEST_F(MergeCommand, MarksHaveTheEncodingOfTheDocument)
     EXPECT_EQ(result.output, utf16("<<<<<<< ours\n<p version='2'/>\n=======\n<p version='3'/>\n>>>>>>> theirs\n"));
 }
 
+TEST_F(MergeCommand, LinesThatMakeNoManifestAreAllThereInAnyEncoding)
+{
+    // Ours begins a comment, which has no end in the lines of theirs.
+    const std::string begin = "<?xml version='1.0' encoding='ISO-8859-1'?>\n<p>\n";
+    const std::string end = "<c name='\xE9'/>\n</p>\n";
+    const ProgramResult result =
+        merge(begin + "<<<<<<< a\n<y/>\n<a/>\n<x/>\n<b/>\n" + end, begin + "<y/>\n<!--\n<x/>\n-->\n" + end,
+              begin + "<y/>\n<a/>\n<x/>\n<b v='2'/>\n" + end);
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_EQ(result.output,
+              begin + "<y/>\n<!--\n<x/>\n<<<<<<< ours\n-->\n=======\n<b v='2'/>\n>>>>>>> theirs\n" + end);
+}
+
+TEST_F(MergeCommand, LabelsOfAnyBytesMakeMarks)
+{
+    const std::string declaration = "<?xml version='1.0' encoding='ISO-8859-1'?>\n";
+    const auto inVersion = [&](const std::string& version) { return declaration + "<p version='" + version + "'/>\n"; };
+    merge(inVersion("1"), inVersion("2"), inVersion("3"));
+    const ProgramResult result = test::runProgram(
+        "/bin/sh", {"-c", "cd \"$1\" && \"$0\" merge base.xml ours.xml theirs.xml -L \"$(printf 'a\\377')\"",
+                    ZUPACKAGE_PROGRAM, folder.path().string()});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.output, HasSubstr("<<<<<<< a&#65533;\n"));
+}
+
 TEST_F(MergeCommand, AByteOrderMarkStandsInTheFirstLineOfEachSideSoThatMarksBeginTheirs)
 {
     const std::string mark = "\xEF\xBB\xBF";
