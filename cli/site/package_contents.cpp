@@ -63,6 +63,12 @@ Html chips(const std::list<std::string>& texts, std::string_view label)
     return html << "</ul>\n"_html;
 }
 
+/// What a heading has the beginning of alone.
+Html factIfCut(std::string_view name, const std::string& value)
+{
+    return shortText(value) == value ? Html() : fact(name, value);
+}
+
 Html behaviorItem(const BehaviorInfo& behavior, const SitePackage& package, const PagePlace& place)
 {
     Html title;
@@ -122,7 +128,7 @@ Html dialogsSection(const SitePackage& package, const PagePlace& place)
         Html title;
         title << (dialog.topicName().empty() ? std::string("A dialog without a name") : shortText(dialog.topicName()));
         html << "<li class=\"item\">\n"_html << heading(2, title, place) << "<dl>\n"_html
-             << fact("Version of the topic files", dialog.typeVersion());
+             << factIfCut("Topic", dialog.topicName()) << fact("Version of the topic files", dialog.typeVersion());
         for (const auto& [language, path] : dialog.topics())
             html << "<div class=\"translation\"><dt>"_html << shownLanguage(language) << "</dt><dd><code>"_html << path
                  << "</code></dd></div>\n"_html;
@@ -139,10 +145,10 @@ Html speechLanguagesSection(const SitePackage& package, const PagePlace& place)
     html << sectionStart("speech", "Speech languages", place) << "<ul class=\"items\">\n"_html;
     for (const LanguageInfo& language : package.package.languages()) {
         Html title;
-        title << (language.locale().empty() ? std::string("A language without a code") : language.locale());
+        title << (language.locale().empty() ? std::string("A language without a code") : shortText(language.locale()));
         Html rows;
-        rows << fact("Speech engine", language.engineName()) << fact("Version of the engine", language.engineVersion())
-             << fact("Folder", language.path());
+        rows << factIfCut("Language", language.locale()) << fact("Speech engine", language.engineName())
+             << fact("Version of the engine", language.engineVersion()) << fact("Folder", language.path());
         html << "<li class=\"item\">\n"_html << heading(2, title, place);
         if (!rows.isEmpty())
             html << "<dl>\n"_html << rows << "</dl>\n"_html;

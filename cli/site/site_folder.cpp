@@ -5,6 +5,7 @@
 #include <cstring>
 #include <fstream>
 #include <set>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -47,6 +48,21 @@ fs::path draftOf(const fs::path& path, const char* purpose)
     return path.parent_path() / ("." + path.filename().string() + "." + purpose + "-" + std::to_string(getpid()));
 }
 
+/// Gives a folder the mode of another one and, where that is allowed, its owner and group.
+void takeOverAccess(const fs::path& folder, const fs::path& other)
+{
+    struct stat present = {};
+    if (stat(other.c_str(), &present) != 0)
+        throw fs::filesystem_error("stat", std::error_code(errno, std::generic_category()));
+    const bool hasGroup = chown(folder.c_str(), present.st_uid, present.st_gid) == 0 ||
+                          chown(folder.c_str(), static_cast<uid_t>(-1), present.st_gid) == 0;
+    mode_t mode = present.st_mode & (S_ISVTX | S_ISGID | S_IRWXU | S_IRWXG | S_IRWXO);
+    // The writer's group is no more than others were.
+    if (!hasGroup)
+        mode = (mode & (S_ISVTX | S_IRWXU | S_IRWXO)) | (mode & (mode & S_IRWXO) << 3);
+    fs::permissions(folder, static_cast<fs::perms>(mode));
+}
+
 } // namespace
 
 SiteFolder::SiteFolder(const std::string& path)
@@ -61,14 +77,23 @@ SiteFolder::SiteFolder(const std::string& path)
         if (const std::string foreign = fs::exists(m_path) ? foreignFile(m_path) : ""; !foreign.empty())
             throw SiteError(path + " holds \"" + foreign +
                             "\", which is of no site; choose a folder for the site alone");
-        fs::create_directories(m_path.parent_path());
-        const fs::path draft = draftOf(m_path, "new");
-        // Open to nobody whom the earlier folder is closed to.
-        if (!(fs::exists(m_path) ? fs::create_directory(draft, m_path) : fs::create_directory(draft)))
-            throw SiteError(draft.string() + " is there already");
-        m_draft = draft;
     } catch (const fs::filesystem_error& error) {
         throw SiteError("cannot write " + path + ": " + error.code().message());
+    }
+}
+
+void SiteFolder::makeDraft()
+{
+    try {
+        fs::create_directories(m_path.parent_path());
+        const fs::path draft = draftOf(m_path, "new");
+        if (!fs::create_directory(draft))
+            throw SiteError(draft.string() + " is there already");
+        m_draft = draft;
+        if (fs::exists(m_path))
+            fs::permissions(m_draft, fs::perms::owner_all);
+    } catch (const fs::filesystem_error& error) {
+        throw SiteError("cannot write " + m_path.string() + ": " + error.code().message());
     }
 }
 
@@ -81,6 +106,8 @@ SiteFolder::~SiteFolder()
 
 void SiteFolder::add(const std::string& name, std::string_view content)
 {
+    if (m_draft.empty())
+        makeDraft();
     const fs::path path = m_draft / name;
     if (path.parent_path() != m_lastFolder) {
         std::error_code error;
@@ -105,7 +132,7 @@ void SiteFolder::publish()
         const fs::path earlier = draftOf(m_path, "old");
         const bool isReplaced = fs::exists(m_path);
         if (isReplaced) {
-            fs::permissions(m_draft, fs::status(m_path).permissions());
+            takeOverAccess(m_draft, m_path);
             fs::rename(m_path, earlier);
         }
         std::error_code error;
@@ -117,6 +144,7 @@ void SiteFolder::publish()
         }
         m_draft.clear();
         std::error_code ignored;
+        fs::permissions(earlier, fs::perms::owner_all, ignored);
         fs::remove_all(earlier, ignored);
     } catch (const fs::filesystem_error& error) {
         throw SiteError("cannot write " + m_path.string() + ": " + error.code().message());

@@ -157,7 +157,35 @@ TEST_F(SiteCommand, WithoutAnyPackageWhatIsThereStaysAsItIs)
         EXPECT_EQ(files(), published);
         EXPECT_EQ(site({source, "--single", single}).exitCode, 3);
         EXPECT_EQ(test::readFile(single), "published");
+        EXPECT_EQ(site({source, "-o", (folder.path() / "new/site").string()}).exitCode, 3);
+        EXPECT_FALSE(fs::exists(folder.path() / "new"));
     }
+}
+
+TEST_F(SiteCommand, AFolderThatMayOnlyBeReadIsReplacedByOneOfItsMode)
+{
+    manifest("a", "<package uuid=\"org.a\"/>");
+    ASSERT_EQ(site({packages, "-o", out}).exitCode, 0);
+    fs::permissions(out, static_cast<fs::perms>(0555));
+    const ProgramResult result = test::runWithoutPrivileges(ZUPACKAGE_PROGRAM, {"site", packages, "-o", out});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    EXPECT_EQ(fs::status(out).permissions(), static_cast<fs::perms>(0555));
+    fs::permissions(out, fs::perms::owner_all);
+    const auto entries = fs::directory_iterator(folder.path());
+    EXPECT_EQ(std::distance(begin(entries), end(entries)), 2) << "something is left beside it";
+}
+
+TEST_F(SiteCommand, ThePageHasTheWholeOfWhatHeadingsCut)
+{
+    const std::string topic(400, 't');
+    const std::string locale(400, 'l');
+    manifest("a", "<package uuid=\"org.a\"><contents><dialogContent topicName=\"" + topic +
+                      "\"/><languageContent><locale>" + locale + "</locale></languageContent></contents></package>");
+    ASSERT_EQ(site({packages, "-o", out}).exitCode, 0);
+    const std::string text = page("packages/org.a.html");
+    EXPECT_THAT(text, HasSubstr("<dt>Topic</dt><dd><bdi>" + topic + "</bdi>"));
+    EXPECT_THAT(text, HasSubstr("<dt>Language</dt><dd><bdi>" + locale + "</bdi>"));
+    EXPECT_THAT(text, Not(HasSubstr(">" + locale + "</h")));
 }
 
 TEST_F(SiteCommand, AnEmptyTitleIsWrongUsage)

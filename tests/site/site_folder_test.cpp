@@ -5,6 +5,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <grp.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace zu::cli {
 
@@ -103,6 +107,45 @@ TEST_F(SiteFolderTest, IsOpenToNobodyElseThanTheEarlierSite)
     fs::permissions(site, fs::perms::all);
     publish("b.html");
     EXPECT_EQ(fs::status(site).permissions(), fs::perms::all);
+}
+
+TEST_F(SiteFolderTest, BelongsToTheGroupOfTheEarlierSite)
+{
+    publish("old.html");
+    if (chown(site.c_str(), 12345, 23456) != 0)
+        GTEST_SKIP() << "only root may give folders away";
+    fs::permissions(site, static_cast<fs::perms>(02750));
+    publish("a.html");
+    struct stat status = {};
+    ASSERT_EQ(stat(site.c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, 12345U);
+    EXPECT_EQ(status.st_gid, 23456U);
+    EXPECT_EQ(status.st_mode & 07777, 02750U);
+}
+
+TEST_F(SiteFolderTest, OfAnotherGroupIsOpenToItAsToOthers)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can be two users";
+    fs::permissions(temporary.path(), fs::perms::all);
+    fs::create_directory(site);
+    fs::permissions(site, static_cast<fs::perms>(0775));
+    EXPECT_EXIT(
+        {
+            constexpr id_t k_nobody = 65534;
+            if (setgroups(0, nullptr) != 0 || setgid(k_nobody) != 0 || setuid(k_nobody) != 0)
+                std::_Exit(2);
+            publish("a.html");
+            std::_Exit(0);
+        },
+        testing::ExitedWithCode(0), "");
+    EXPECT_EQ(fs::status(site).permissions(), static_cast<fs::perms>(0755));
+}
+
+TEST_F(SiteFolderTest, MakesNothingBeforeItsFirstFile)
+{
+    SiteFolder folder(site + "/deep/below");
+    EXPECT_FALSE(fs::exists(site));
 }
 
 TEST_F(SiteFolderTest, IsNoFile)

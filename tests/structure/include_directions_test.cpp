@@ -65,6 +65,7 @@ const std::vector<Rule> k_rules = {
     {"authoring/tests/",
      {"authoring/", "tests/", k_package, k_framework, "QtCore/", "QtXml/", "gmock/", "gtest/", "std/"}},
 
+    {"cli/site/site_folder.", {"cli/site/", "sys/", "std/"}},
     {"cli/", {"cli/", k_authoring, k_package, "QtCore/", "CLI/", "nlohmann/", "std/"}},
     {"bench/",
      {"bench/", k_authoring, k_package, k_framework, "QtCore/", "QtXml/", "benchmark/", "boost/", "nlohmann/", "std/"}},
@@ -74,7 +75,7 @@ const std::vector<Rule> k_rules = {
     {"tests/hostile/", {"tests/", k_authoring, k_package, k_framework, "gmock/", "gtest/", "sys/", "std/"}},
     {"tests/loading/", {"tests/", k_package, k_framework, "gmock/", "gtest/", "std/"}},
     {"tests/structure/version_test.cpp", {"tests/", k_authoring, k_package, k_framework, "gtest/", "std/"}},
-    {"tests/site/", {"tests/", "cli/site/", "gmock/", "gtest/", "std/"}},
+    {"tests/site/", {"tests/", "cli/site/", "gmock/", "gtest/", "sys/", "std/"}},
     {"tests/cli/", {"tests/", "QtCore/", "gmock/", "gtest/", "sys/", "std/"}},
     {"tests/",
      {"tests/", "src/", k_package, k_framework, "QtCore/", "QtXml/", "boost/", "linux/", "gmock/", "gtest/", "sys/",
