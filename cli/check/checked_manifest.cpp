@@ -45,7 +45,8 @@ bool takeSettings(CheckedManifest& checked, const std::optional<std::string>& pa
     } catch (const UnreadableSettings& error) {
         checked.failure = error.what();
     }
-    return checked.failure.empty();
+    checked.hasUnusableSettings = !checked.failure.empty();
+    return !checked.hasUnusableSettings;
 }
 
 /// @return why the file could not be written; empty when it was.

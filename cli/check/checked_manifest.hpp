@@ -34,6 +34,7 @@ struct CheckedManifest
 {
     std::string name;                         ///< as messages show it, but any bytes
     std::string failure;                      ///< why it could not be checked; empty when it was
+    bool hasUnusableSettings = false;         ///< which is why
     ExitCode failureExitCode = k_inputFailed; ///< wrong usage for settings that cannot be understood
     std::string writeFailure; ///< why its fixes could not be written; empty when they were, or there were none
     authoring::SourceDocument document;         ///< as the file is now
@@ -41,6 +42,14 @@ struct CheckedManifest
     std::map<std::string, std::string> reasons; ///< of suppressed findings, by their rules
     std::vector<ManifestFix> fixes;             ///< those that were made, or would be
     bool isFixed = false;                       ///< the fixes are in the file
+
+    /// The failure as a clause: "cannot read a/manifest.xml: Permission denied".
+    std::string complaint() const
+    {
+        return std::string("cannot ") + (hasUnusableSettings ? "check " : "read ") + name + ": " + failure;
+    }
+    /// What the failure is, in a word or two.
+    const char* failureTitle() const { return hasUnusableSettings ? "not checked" : "unreadable"; }
 };
 
 /// Checks a manifest file, or what standard input holds for "-".

@@ -79,7 +79,7 @@ public:
         const std::string file = fileProperty(manifest.name);
         std::string text;
         if (!manifest.failure.empty())
-            text += annotation("error", file, "unreadable", manifest.failure);
+            text += annotation("error", file, manifest.failureTitle(), manifest.failure);
         if (!manifest.writeFailure.empty())
             text += annotation("error", file, "not written", manifest.writeFailure);
         for (const ManifestFix& fix : manifest.fixes)

@@ -46,14 +46,14 @@ public:
 
     std::string add(const SearchFailure& failure) override
     {
-        addUnreadable(failure.path, failure.message);
+        addError(failure.path, "unreadable", failure.message);
         return {};
     }
 
     std::string add(const CheckedManifest& manifest) override
     {
         if (!manifest.failure.empty()) {
-            addUnreadable(manifest.name, manifest.failure);
+            addError(manifest.name, manifest.failureTitle(), manifest.failure);
             return {};
         }
         const std::size_t findings = manifest.report.findings.size();
@@ -127,10 +127,11 @@ private:
         m_writer.writeEndElement();
     }
 
-    void addUnreadable(std::string_view path, std::string_view message)
+    /// A suite of one case.
+    void addError(std::string_view path, std::string_view title, std::string_view message)
     {
         beginSuite(path, {1, 0, 1, 0});
-        addCase(path, "unreadable", "error", message);
+        addCase(path, title, "error", message);
         m_writer.writeEndElement();
     }
 

@@ -14,8 +14,7 @@ void Tally::add(const SearchFailure& failure)
 void Tally::add(const CheckedManifest& manifest)
 {
     if (!manifest.failure.empty()) {
-        const char* const verb = manifest.failureExitCode == k_usage ? "check " : "read ";
-        complain(std::string("cannot ") + verb + manifest.name + ": " + manifest.failure);
+        complain(manifest.complaint());
         ++m_summary.unreadable;
         end(manifest.failureExitCode);
         return;

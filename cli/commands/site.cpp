@@ -35,8 +35,7 @@ ExitCode addAll(const std::vector<std::string>& manifests, SiteWriter& site, std
         [&](SiteArticle article) {
             if (!article.failure.empty()) {
                 progress.clear();
-                const char* const verb = article.failureExitCode == k_usage ? "check " : "read ";
-                complain(std::string("cannot ") + verb + article.name + ": " + article.failure);
+                complain(article.failure);
                 result = worse(result, article.failureExitCode);
             }
             if (article.isShown) {

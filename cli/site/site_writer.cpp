@@ -108,8 +108,10 @@ private:
 SiteArticle SiteWriter::articleOf(const SitePackage& package, std::size_t number) const
 {
     SiteArticle article;
-    article.name = package.checked.name;
-    article.failure = package.checked.failure.empty() ? package.refusal : package.checked.failure;
+    if (!package.checked.failure.empty())
+        article.failure = package.checked.complaint();
+    else if (!package.refusal.empty())
+        article.failure = "cannot read " + package.checked.name + ": " + package.refusal;
     article.failureExitCode = package.checked.failureExitCode;
     // What is no package has a page all the same, with what is wrong; what is no file has none.
     article.isShown = package.checked.failure.empty();

@@ -11,8 +11,7 @@ namespace zu::cli {
 /// What stands for a package in a site; it is made beside those of others.
 struct SiteArticle
 {
-    std::string name;    ///< of the manifest, as messages show it
-    std::string failure; ///< why it could not be read or checked, or is read as no package; empty otherwise
+    std::string failure; ///< a clause, when it could not be read or checked, or is read as no package; else empty
     ExitCode failureExitCode = k_inputFailed;
     bool isShown = true; ///< not when there was nothing to read, or no settings for it
     std::string identifier;

@@ -29,6 +29,7 @@ inline const std::string k_undescribed =
 inline const std::string k_fixable = replaced(k_good, " uuid", " installOnlyAtStartup=\" true \" uuid");
 
 inline constexpr const char* k_machineFormats[] = {"json", "sarif", "junit", "github"};
+inline constexpr const char* k_formats[] = {"text", "json", "sarif", "junit", "github"};
 
 /// zupackage check, with a folder for manifests.
 class CheckCommand : public testing::Test

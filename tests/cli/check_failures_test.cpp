@@ -39,7 +39,7 @@ TEST_F(CheckCommand, SettingsThatCannotBeUnderstoodHideNoOtherManifest)
     const std::string b = package("b", k_bad);
     package("c", k_bad);
     folder.file("b/.zupackage-check", "nonsense\n");
-    for (const std::string format : {"text", "json", "sarif", "junit", "github"}) {
+    for (const std::string format : k_formats) {
         SCOPED_TRACE(format);
         const ProgramResult result = check({"--format", format, folder.path().string()});
         EXPECT_EQ(result.exitCode, 2);
@@ -55,6 +55,8 @@ TEST_F(CheckCommand, SettingsThatCannotBeUnderstoodHideNoOtherManifest)
         if (format == "sarif") {
             EXPECT_THAT(result.output, HasSubstr("\"executionSuccessful\": false"));
         }
+        EXPECT_THAT(result.output, Not(HasSubstr("=\"unreadable\""))) << "the manifest is not";
+        EXPECT_THAT(result.output, Not(HasSubstr("title=unreadable")));
     }
 }
 
@@ -70,7 +72,8 @@ TEST_F(CheckCommand, SettingsThatCannotBeReadAreAFailureOfInput)
         ASSERT_EQ(chmod((folder.path() / "web").c_str(), 0), 0);
         const ProgramResult result = checkWithoutPrivileges({path});
         EXPECT_EQ(result.exitCode, 3);
-        EXPECT_THAT(result.errors, HasSubstr(std::string(".zupackage-check: ") + reason + "\n"));
+        EXPECT_THAT(result.errors, AllOf(HasSubstr("zupackage: cannot check " + path + ": "),
+                                         HasSubstr(std::string(".zupackage-check: ") + reason + "\n")));
         fs::remove(settings);
     }
     ASSERT_EQ(mkfifo(settings.c_str(), 0600), 0);
