@@ -25,8 +25,8 @@ struct FoundManifests
 /// depth, sorted by path. Hidden folders are left out. Links to folders are followed, each folder is searched once and
 /// under its own path where it has one in the source; a link to a folder that holds the source is left out.
 ///
-/// Failures are a folder without any manifest, folders that cannot be read, and what is called "manifest.xml" in a
-/// folder and is a pipe, a socket or a device.
+/// Failures are a folder without any manifest, folders that cannot be read, links of which cannot be told whether they
+/// lead to folders, and what is called "manifest.xml" in a folder and is a pipe, a socket or a device.
 FoundManifests searchManifests(const std::vector<std::string>& sources);
 
 /// The manifests that all of the sources stand for. A failure of the search is an error of input, which standard error
