@@ -15,6 +15,7 @@
 #include "commands/set.hpp"
 #include "commands/show.hpp"
 #include "commands/site.hpp"
+#include "display_width.hpp"
 #include "manual/program_definition.hpp"
 #include "output.hpp"
 #include "process_settings.hpp"
@@ -103,6 +104,9 @@ void addOptions(CommandLine& line)
 {
     line.app.set_version_flag("--version", "zupackage " ZUPACKAGE_VERSION, "Print the version and exit");
     line.app.require_subcommand(1);
+    line.app.failure_message([](const CLI::App* app, const CLI::Error& error) {
+        return displayed(error.what()) + "\nRun with " + app->get_help_ptr()->get_name() + " for more information.\n";
+    });
     line.app.footer([] { return footerOf({}); });
 }
 

@@ -51,4 +51,12 @@ TEST(Program, WrongUsageIsExplainedOnStandardError)
     }
 }
 
+TEST(Program, ArgumentsThatAreNotExpectedSteerNoTerminal)
+{
+    const test::ProgramResult result = zupackage({"convert", "--to", "json", "x", "\x1B[2J\ny"});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_EQ(result.errors, "The following argument was not expected: \xEF\xBF\xBD[2J\xEF\xBF\xBDy\n"
+                             "Run with --help for more information.\n");
+}
+
 } // namespace zu
