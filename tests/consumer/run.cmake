@@ -24,6 +24,7 @@ file(REMOVE_RECURSE ${WORK_FOLDER})
 run(${CMAKE_COMMAND} --install ${BUILD_FOLDER} --prefix ${WORK_FOLDER}/prefix)
 run(${CMAKE_COMMAND} -DFOLDER=${WORK_FOLDER}/prefix/${DOCUMENTATION_FOLDER}
     -P ${CMAKE_CURRENT_LIST_DIR}/../structure/follow_links.cmake)
+run(test -x ${WORK_FOLDER}/prefix/${DOCUMENTATION_FOLDER}/examples/packages/fleet-monitor/bin/heartbeat)
 # The installed tool finds its libraries in the prefix.
 run_and_expect("^UUID: org.example.storyteller\n" ${WORK_FOLDER}/prefix/bin/zupackage show ${MANIFEST})
 run_and_expect("^zupackage ${VERSION}\n$" ${WORK_FOLDER}/prefix/bin/zupackage --version)
