@@ -90,7 +90,7 @@ TEST_F(CheckCommand, FixesThatCannotBeWrittenHideNothing)
     const std::string b = package("b", k_fixable);
     const std::string c = package("c", k_bad);
     ASSERT_EQ(chmod((folder.path() / "b").c_str(), 0500), 0);
-    for (const std::string format : {"text", "json", "sarif", "junit", "github"}) {
+    for (const std::string format : k_formats) {
         SCOPED_TRACE(format);
         const ProgramResult result = checkWithoutPrivileges({"--fix", "--format", format, folder.path().string()});
         EXPECT_EQ(result.exitCode, 5);

@@ -11,35 +11,59 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 
-TEST_F(CheckCommand, JsonIsOneDocumentOfItsSchemaWhateverHappens)
+namespace {
+
+class CheckReports : public CheckCommand
 {
-    folder.file(".zupackage-check", "blank-text = off # none of ours\n");
-    const std::string faulty = manifest(replaced(k_bad, ">A<", " lang=\"xq\"> </name><name lang=\"en\">A<"));
-    const std::string absent = (folder.path() / "\xFF").string();
-    for (const std::vector<std::string>& sources :
-         {std::vector<std::string>{faulty}, {absent}, {folder.path().string(), absent}, {"-"}}) {
-        std::vector<std::string> arguments = {"--format", "json"};
-        arguments.insert(arguments.end(), sources.begin(), sources.end());
-        const ProgramResult result = check(arguments, {k_good, {}, {}});
-        EXPECT_EQ(invalidityOfJson(result.output, "docs/schemas/check-report.schema.json"), "");
-        EXPECT_THAT(result.output, HasSubstr("\"format_version\": 1"));
+protected:
+    /// Manifests that are good, faulty, absent, from standard input, and in a folder whose name is no UTF-8: searched
+    /// for, because the arguments of this process are characters.
+    std::vector<std::vector<std::string>> variedSources() const
+    {
+        package("searched/faulty", replaced(k_bad, ">A<", " lang=\"xq\"> </name><name lang=\"en\">A<"));
+        folder.file("searched/.zupackage-check", "blank-text = off # none of ours\n");
+        package("searched/\xFF", k_bad);
+        const std::string searched = (folder.path() / "searched").string();
+        const std::string absent = (folder.path() / "absent").string();
+        return {{searched}, {absent}, {searched, absent}, {"-"}};
+    }
+
+    static ProgramResult report(const std::string& format, std::vector<std::string> arguments)
+    {
+        arguments.insert(arguments.begin(), {"--format", format});
+        return check(arguments, {k_good, {}, {}});
+    }
+};
+
+} // namespace
+
+TEST_F(CheckReports, JsonIsOneDocumentOfItsSchemaWhateverHappens)
+{
+    for (const std::vector<std::string>& sources : variedSources()) {
+        const std::string output = report("json", sources).output;
+        EXPECT_EQ(invalidityOfJson(output, "docs/schemas/check-report.schema.json"), "");
+        EXPECT_THAT(output, HasSubstr("\"format_version\": 1"));
     }
 }
 
-TEST_F(CheckCommand, SarifIsOneDocumentOfItsSchemaWhateverHappens)
+TEST_F(CheckReports, SarifIsOneDocumentOfItsSchemaWhateverHappens)
 {
-    folder.file(".zupackage-check", "blank-text = off # none of ours\n");
-    const std::string faulty = manifest(replaced(k_bad, ">A<", "> </name><name lang=\"en\">A<"));
-    const std::string absent = (folder.path() / "\xFF").string();
-    for (const std::vector<std::string>& sources : {std::vector<std::string>{faulty}, {absent, faulty}, {"-"}}) {
-        std::vector<std::string> arguments = {"--format", "sarif"};
-        arguments.insert(arguments.end(), sources.begin(), sources.end());
-        const ProgramResult result = check(arguments, {k_good, {}, {}});
-        EXPECT_EQ(invalidityOfJson(result.output, "tests/schemas/sarif-2.1.0.json"), "");
+    for (const std::vector<std::string>& sources : variedSources()) {
+        EXPECT_EQ(invalidityOfJson(report("sarif", sources).output, "tests/schemas/sarif-2.1.0.json"), "");
     }
 }
 
-TEST_F(CheckCommand, JunitHasACaseForEachFindingAndOneForNone)
+TEST_F(CheckReports, JunitIsOneDocumentWhateverHappens)
+{
+    for (const std::vector<std::string>& sources : variedSources()) {
+        QXmlStreamReader reader(QByteArray::fromStdString(report("junit", sources).output));
+        while (!reader.atEnd())
+            reader.readNext();
+        EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+    }
+}
+
+TEST_F(CheckReports, JunitHasACaseForEachFindingAndOneForNone)
 {
     const std::string bad = manifest(k_bad);
     const std::string good = folder.file("good.xml", k_good);
@@ -55,7 +79,7 @@ TEST_F(CheckCommand, JunitHasACaseForEachFindingAndOneForNone)
                                       "testsuite", "testcase", "error"));
 }
 
-TEST_F(CheckCommand, GithubCommandsEscapeWhatWouldEndThem)
+TEST_F(CheckReports, GithubCommandsEscapeWhatWouldEndThem)
 {
     std::filesystem::create_directory(folder.path() / "a,b:c%d");
     folder.file("a,b:c%d/manifest.xml", replaced(k_bad, "\"one\"", "\"100%\""));
@@ -64,7 +88,7 @@ TEST_F(CheckCommand, GithubCommandsEscapeWhatWouldEndThem)
                                          "title=malformed-version::\"100%25\" is no version"));
 }
 
-TEST_F(CheckCommand, EveryFormatSaysThatFindingsWereLeftOut)
+TEST_F(CheckReports, EveryFormatSaysThatFindingsWereLeftOut)
 {
     std::string comments;
     for (int i = 0; i < 1'010; ++i)
@@ -78,11 +102,11 @@ TEST_F(CheckCommand, EveryFormatSaysThatFindingsWereLeftOut)
     }
 }
 
-TEST_F(CheckCommand, EveryFormatShowsWhatIsSuppressed)
+TEST_F(CheckReports, EveryFormatShowsWhatIsSuppressed)
 {
     folder.file(".zupackage-check", "malformed-version = off # dates\n");
     const std::string path = manifest(k_bad);
-    for (const std::string format : {"text", "json", "sarif", "junit", "github"}) {
+    for (const std::string format : k_formats) {
         SCOPED_TRACE(format);
         const ProgramResult result = check({"--show-suppressed", "--format", format, path});
         EXPECT_EQ(result.exitCode, 0);
@@ -95,7 +119,7 @@ TEST_F(CheckCommand, EveryFormatShowsWhatIsSuppressed)
                 HasSubstr("<skipped message=\"&quot;one"));
 }
 
-TEST_F(CheckCommand, NamesOfFilesCannotSteerATerminal)
+TEST_F(CheckReports, NamesOfFilesCannotSteerATerminal)
 {
     const std::string bad = package("a\x1B[31m\nb", k_bad);
     const std::string absent = (folder.path() / "\x1B[2J").string();
