@@ -128,9 +128,10 @@ TEST_F(GitMerge, NothingIsLostWhereTheBaseOfBranchesThatCrossedHasMarks)
 TEST_F(GitMerge, CommentsOfBothBranchesMeet)
 {
     const std::string comment = "  <!-- for robots -->\n</package>";
-    EXPECT_EQ(
-        merge(replaced(k_waveManifest, "Wave", "Hello"), replaced(k_waveManifest, "</package>", comment)).exitCode, 0);
-    EXPECT_EQ(content(), replaced(replaced(k_waveManifest, "Wave", "Hello"), "</package>", comment));
+    const std::string ours =
+        replaced(k_waveManifest, "    <name lang=\"en\">Wave", "    <!-- short -->\n    <name lang=\"en\">Hello");
+    EXPECT_EQ(merge(ours, replaced(k_waveManifest, "</package>", comment)).exitCode, 0);
+    EXPECT_EQ(content(), replaced(ours, "</package>", comment));
 }
 
 TEST_F(GitMerge, WhatCannotBeReadIsLeftAsOurs)
