@@ -69,7 +69,8 @@ std::string outcome(const std::string& form, const std::string& path)
     return "read";
 }
 
-/// What the process held at most, in MiB. What getrusage() tells includes what its parent held when it started it.
+/// What the process held at most, in MiB; 0 when the system does not tell. What getrusage() tells includes what its
+/// parent held when it started it.
 std::size_t peakMebibytes()
 {
     constexpr std::string_view k_peak = "VmHWM:";
@@ -116,7 +117,7 @@ int main(int argc, char** argv)
         runOnSmallStack(read);
     else
         read();
-    if (const std::size_t taken = peakMebibytes(); allowed > 0 && taken > allowed) {
+    if (const std::size_t taken = peakMebibytes(); allowed > 0 && (taken == 0 || taken > allowed)) {
         std::cerr << "took " << taken << " MiB of " << allowed << '\n';
         return 1;
     }
