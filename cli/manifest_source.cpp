@@ -29,4 +29,9 @@ bool loadManifestFrom(const std::string& source, PackageInfo& package)
     return package.loadFromManifestFile(isFolder ? source + "/manifest.xml" : source);
 }
 
+std::string wordsOf(const ManifestSyntaxError& error)
+{
+    return "line " + std::to_string(error.line) + ", column " + std::to_string(error.column) + ": " + error.message;
+}
+
 } // namespace zu::cli

@@ -11,4 +11,7 @@ namespace zu::cli {
 /// @return false when it could not be read; the library has written why to the log then.
 bool loadManifestFrom(const std::string& source, PackageInfo& package);
 
+/// "line 3, column 7: tag mismatch", for messages.
+std::string wordsOf(const ManifestSyntaxError& error);
+
 } // namespace zu::cli

@@ -3,6 +3,7 @@
 #include "diff/difference_report.hpp"
 #include "display_width.hpp"
 #include "manifest_bytes.hpp"
+#include "manifest_source.hpp"
 #include "output.hpp"
 #include "terminal.hpp"
 
@@ -43,8 +44,7 @@ PackageInfo readCompared(const ComparedManifest& side, bool mayBeAbsent, std::st
     if (!readManifestBytes(side.path, bytes, failure))
         unreadable.push_back({side.name, failure});
     else if (!readManifest(bytes, package, &error))
-        unreadable.push_back({side.name, "line " + std::to_string(error.line) + ", column " +
-                                             std::to_string(error.column) + ": " + error.message});
+        unreadable.push_back({side.name, wordsOf(error)});
     return package;
 }
 

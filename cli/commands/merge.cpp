@@ -3,6 +3,7 @@
 #include "display_width.hpp"
 #include "edit/edit_command.hpp"
 #include "manifest_bytes.hpp"
+#include "manifest_source.hpp"
 #include "merge/conflict_marks.hpp"
 #include "merge/line_merge.hpp"
 #include "merge/text_merge.hpp"
@@ -66,9 +67,7 @@ bool isManifest(const Side& side)
 {
     PackageInfo package;
     ManifestSyntaxError error;
-    return readManifest(side.bytes, package, &error) ||
-           failedToRead(side, "line " + std::to_string(error.line) + ", column " + std::to_string(error.column) + ": " +
-                                  error.message);
+    return readManifest(side.bytes, package, &error) || failedToRead(side, wordsOf(error));
 }
 
 /// What the options say about marks; nothing when that makes no sense, which standard error tells then.

@@ -1,6 +1,7 @@
 #include "languages/manifest_languages.hpp"
 
 #include "manifest_bytes.hpp"
+#include "manifest_source.hpp"
 
 #include <zupackage/package_info.hpp>
 
@@ -33,8 +34,7 @@ ManifestLanguages languagesOf(const std::string& path, const std::vector<std::st
     if (!readManifestBytes(path, bytes, languages.failure))
         return languages;
     if (!readManifest(bytes, package, &error)) {
-        languages.failure =
-            "line " + std::to_string(error.line) + ", column " + std::to_string(error.column) + ": " + error.message;
+        languages.failure = wordsOf(error);
         return languages;
     }
     languages.uuid = package.uuid();

@@ -1,5 +1,6 @@
 #include "site/site_package.hpp"
 
+#include "manifest_source.hpp"
 #include "site/short_text.hpp"
 
 #include <QtCore/QString>
@@ -66,8 +67,7 @@ SitePackage readSitePackage(const std::string& path)
         return package;
     ManifestSyntaxError error;
     if (!readManifest(package.checked.document.text(), package.package, &error))
-        package.refusal =
-            "line " + std::to_string(error.line) + ", column " + std::to_string(error.column) + ": " + error.message;
+        package.refusal = wordsOf(error);
     package.matrix = authoring::languageMatrix(package.package);
     setTitle(package, path);
     return package;
