@@ -17,6 +17,7 @@
 
 namespace zu::authoring {
 
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace {
@@ -84,6 +85,13 @@ TEST(XmlSchema, EveryExamplePackageIsValid)
     for (const auto& folder : test::examplePackages())
         validation.add(folder.filename().string(), manifestOf(folder));
     EXPECT_THAT(validation.refused(), IsEmpty());
+}
+
+TEST(XmlSchema, DebianKnowsItByItsName)
+{
+    for (const char* script : {"cmake/debian/postinst", "cmake/debian/prerm"}) {
+        EXPECT_THAT(test::readFile(test::sourcePath(script)), HasSubstr("\nschema=" + xmlSchemaUri() + "\n"));
+    }
 }
 
 TEST(XmlSchema, WhatChecksFindNothingInIsValid)
