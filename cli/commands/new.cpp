@@ -16,6 +16,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <system_error>
 #include <unistd.h>
 
@@ -25,18 +26,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What an option holds that is not there: no argument has a zero byte.
-std::string notGiven() { return std::string(1, '\0'); }
-
-bool isGiven(const std::string& value) { return value != notGiven(); }
-
 struct NewArguments
 {
     std::vector<std::string> folders;
     std::string kind = "behavior";
-    std::string uuid = notGiven();
-    std::string name = notGiven();
-    std::string description = notGiven();
+    std::optional<std::string> uuid;
+    std::optional<std::string> name;
+    std::optional<std::string> description;
     std::vector<std::string> languages;
     bool namesSchema = false;
 };
@@ -52,11 +48,10 @@ SkeletonWish wishOf(const NewArguments& arguments, const std::string& folder)
 {
     SkeletonWish wish;
     wish.kind = arguments.kind;
-    wish.name = isGiven(arguments.name) ? arguments.name : lastNameOf(folder);
-    wish.description = isGiven(arguments.description) ? arguments.description : wish.name;
+    wish.name = arguments.name ? *arguments.name : lastNameOf(folder);
+    wish.description = arguments.description.value_or(wish.name);
     wish.slug = slugOf(wish.name);
-    wish.uuid =
-        isGiven(arguments.uuid) ? arguments.uuid : QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString();
+    wish.uuid = arguments.uuid ? *arguments.uuid : QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString();
     wish.languages = arguments.languages.empty() ? std::vector<std::string>{"en"} : arguments.languages;
     return wish;
 }
@@ -92,13 +87,13 @@ std::string faultOf(const NewArguments& arguments)
     struct Option
     {
         const char* name;
-        const std::string& value;
+        const std::optional<std::string>& value;
         const char* (*faultOf)(const std::string& value);
     };
     for (const Option& option :
          {Option{"--uuid", arguments.uuid, unfitness}, Option{"--name", arguments.name, unfitness},
           Option{"--description", arguments.description, blankness}}) {
-        const std::string fault = isGiven(option.value) ? option.faultOf(option.value) : "";
+        const std::string fault = option.value ? option.faultOf(*option.value) : "";
         if (!fault.empty())
             return std::string(option.name) + ": the value " + fault;
     }
@@ -107,7 +102,7 @@ std::string faultOf(const NewArguments& arguments)
             return "--language: \"" + displayed(*language) + "\" is given twice";
     }
     for (const std::string& folder : arguments.folders) {
-        const std::string fault = isGiven(arguments.name) ? "" : unfitness(lastNameOf(folder));
+        const std::string fault = arguments.name ? "" : unfitness(lastNameOf(folder));
         if (!fault.empty())
             return "FOLDER: the name of the folder \"" + displayed(folder) + "\" " + fault +
                    "; give the package one by --name";
