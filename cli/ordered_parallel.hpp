@@ -11,7 +11,7 @@
 namespace zu::cli {
 
 /// Calls `make(i)` for each i below `count`, on all cores, and `take(result)` on this thread, in the order of i. What
-/// `make` throws is thrown here, at its turn; nothing is taken after that.
+/// `make` throws is thrown here, at its turn, and so is what `take` throws; nothing is taken after that.
 /// @param take returns false when it wants no more.
 template <typename Result, typename Make, typename Take>
 void inOrder(std::size_t count, Make make, Take take)
@@ -55,8 +55,12 @@ void inOrder(std::size_t count, Make make, Take take)
             results[i].result.reset();
         }
         error = slot.error;
-        if (!error && !take(std::move(*slot.result)))
-            break;
+        try {
+            if (!error && !take(std::move(*slot.result)))
+                break;
+        } catch (...) {
+            error = std::current_exception();
+        }
     }
     next = count; // who is still at work finds nothing more to do
     for (std::thread& thread : threads)
