@@ -59,8 +59,8 @@ private:
 /// are gone, all of them, of which each writing of a manifest takes away one.
 ///
 /// Throws std::runtime_error in one case: keys or languages may have become equal by U+FFFD or without byte order
-/// marks, so that the manifest must tell what becomes of them, and is larger than those that are read. May be called by several threads at once, on packages
-/// of their own.
+/// marks, so that the manifest must tell what becomes of them, and is larger than those that are read. May be called by
+/// several threads at once, on packages of their own.
 ZUPACKAGE_AUTHORING_EXPORT std::string toJson(const PackageInfo& package);
 
 /// The package that toJson() wrote. What is absent stays empty, members may stand in any order, null is no value.
